@@ -1,0 +1,60 @@
+// Prints the usual console table and, at the end, what the library costs as a multiple of a bare loop.
+#include "ratio_reporter.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+namespace zq::LM::bench {
+
+namespace {
+
+constexpr std::string_view Library = "/library";
+constexpr std::string_view Bare = "/bare";
+
+} // namespace
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs)
+{
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+        if (run.run_type != Run::RT_Iteration || run.error_occurred) {
+            continue;
+        }
+        // The fastest repetition is the one that other programs disturbed least.
+        std::string name = run.run_name.function_name;
+        if (!run.run_name.args.empty()) {
+            name += "/" + run.run_name.args;
+        }
+        const auto [place, isNew] = fastest.emplace(name, run.GetAdjustedCPUTime());
+        if (isNew) {
+            names.push_back(name);
+        }
+        place->second = std::min(place->second, run.GetAdjustedCPUTime());
+    }
+}
+
+void RatioReporter::Finalize()
+{
+    ConsoleReporter::Finalize();
+    std::printf("\n%-24s %12s %12s %8s\n", "fastest repetition", "library", "bare", "ratio");
+    for (const std::string& name : names) {
+        const std::size_t place = name.find(Library);
+        if (place == std::string::npos) {
+            continue;
+        }
+        std::string bareName = name;
+        bareName.replace(place, Library.size(), Bare);
+        const auto bare = fastest.find(bareName);
+        if (bare == fastest.end()) {
+            continue;
+        }
+        std::string subject = name;
+        subject.erase(place, Library.size());
+        const double library = fastest.at(name);
+        std::printf("%-24s %9.1f ns %9.1f ns %8.2f\n", subject.c_str(), library, bare->second,
+                    library / bare->second);
+    }
+}
+
+} // namespace zq::LM::bench

@@ -1,0 +1,64 @@
+# How everything in this tree is compiled: language, warnings, sanitizers, hardening.
+include_guard()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_C_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+
+if(LUMORA_DEBUG_SWITCH)
+  add_compile_definitions(LUMORA_DEBUG_SWITCH)
+endif()
+
+if(WIN32)
+  enable_language(RC)
+  # Windows 10 is the oldest system; the explicit returns give methods that return structures the right ABI in GCC.
+  add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00 NTDDI_VERSION=0x0A000006
+                          WIDL_EXPLICIT_AGGREGATE_RETURNS)
+endif()
+
+if(MSVC)
+  add_compile_options(/utf-8 /permissive- /guard:cf)
+  add_link_options(/guard:cf /DYNAMICBASE /NXCOMPAT /HIGHENTROPYVA)
+else()
+  add_link_options(-fstack-protector-strong)
+  add_compile_options(-fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+  if(MINGW)
+    add_link_options(-static $<$<CONFIG:Release>:-s> -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+  endif()
+endif()
+
+if(LUMORA_SANITIZER STREQUAL "address")
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+elseif(LUMORA_SANITIZER STREQUAL "thread")
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
+elseif(LUMORA_SANITIZER)
+  message(FATAL_ERROR "LUMORA_SANITIZER is \"${LUMORA_SANITIZER}\"; it may be empty, address or thread.")
+endif()
+
+# Warnings are errors in our own code; what comes from elsewhere is compiled as it is.
+function(lumora_own_code target)
+  if(MSVC)
+    # 4458: a constructor's parameter may carry the name of the member that it fills.
+    target_compile_options(${target} PRIVATE /W4 /WX /wd4458)
+  else()
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+  endif()
+endfunction()
+
+# One folder under src/ is one library; its dependencies are the only rooms it may include from.
+function(lumora_room name)
+  cmake_parse_arguments(room "" "" "SOURCES;NEEDS" ${ARGN})
+  add_library(lumora_${name} STATIC ${room_SOURCES})
+  target_include_directories(lumora_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
+  target_link_libraries(lumora_${name} PUBLIC ${room_NEEDS})
+  lumora_own_code(lumora_${name})
+endfunction()

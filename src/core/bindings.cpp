@@ -1,0 +1,128 @@
+// The free functions through which the system and the ink engine reach the Core.
+#include "core/bindings.h"
+
+#include "core/core.h"
+#include "platform/win32/gdi_owners.h"
+#include "render/drawing_lib.h"
+#include "render/key_fill.h"
+#include "render/line_rules.h"
+
+namespace zq::LM {
+
+namespace {
+
+Core* g_core = nullptr;   // the Core whose window was created last; never cleared
+bool g_coreLives = false; // whether it still exists
+
+Core* LivingCore() { return g_coreLives ? g_core : nullptr; }
+
+// A frame's brackets need a window to show it.
+DrawingLib* WindowedBackEnd()
+{
+    Core* core = LivingCore();
+    return core != nullptr && core->Window() != nullptr ? core->ActiveBackEnd() : nullptr;
+}
+
+DrawingLib* ActiveBackEnd()
+{
+    Core* core = LivingCore();
+    return core != nullptr ? core->ActiveBackEnd() : nullptr;
+}
+
+// Windows stay behind when the back-end changes, and when an instance ends on another thread.
+LRESULT ServeLeftWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != WM_PAINT) {
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    const PaintSession paint(window);
+    RECT client{};
+    GetClientRect(window, &client);
+    FillRectangle(paint.Get(), client, g_colorKey);
+    return 0;
+}
+
+} // namespace
+
+void SetWindowCore(Core* core)
+{
+    g_core = core;
+    g_coreLives = true;
+}
+
+void ForgetWindowCore(const Core* core)
+{
+    if (g_core == core) {
+        g_coreLives = false;
+    }
+}
+
+LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (g_core == nullptr) {
+        return 0;
+    }
+    Core* core = LivingCore();
+    if (core == nullptr || !core->Owns(window, message)) {
+        return ServeLeftWindow(window, message, wParam, lParam);
+    }
+    try {
+        return core->Dispatch(window, message, wParam, lParam);
+    } catch (...) {
+        return 0; // the system's dispatch cannot carry an exception; the frame is lost, the overlay goes on
+    }
+}
+
+void ClearCallback()
+{
+    if (DrawingLib* backEnd = WindowedBackEnd()) {
+        backEnd->Clear();
+    }
+}
+
+void PresentCallback()
+{
+    if (DrawingLib* backEnd = WindowedBackEnd()) {
+        backEnd->Present();
+    }
+}
+
+unsigned PickScreenColorCallback(bool clearFlag)
+{
+    Core* core = LivingCore();
+    return core != nullptr ? core->PickScreenColour(clearFlag) : 0;
+}
+
+void DrawLineCallback(int x1, int y1, unsigned w1, unsigned c1, int x2, int y2, unsigned w2, unsigned c2)
+{
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        const unsigned width = MixWidths(w1, w2);
+        const unsigned colour = InkLineColour(c1, c2);
+        backEnd->DrawLine(x1, y1, width, colour, x2, y2, width, colour);
+    }
+}
+
+void EraseLineCallback(int x1, int y1, unsigned w1, unsigned, int x2, int y2, unsigned w2, unsigned)
+{
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        // Alpha stays 0: a back-end that honours it draws nothing.
+        const unsigned width = MixWidths(w1, w2);
+        backEnd->DrawLine(x1, y1, width, g_colorKey, x2, y2, width, g_colorKey);
+    }
+}
+
+void DrawPenDataCallback(std::vector<PenData>* samples, unsigned width, unsigned colour)
+{
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        backEnd->DrawPenData(samples, width, colour);
+    }
+}
+
+void DrawTextCallback(int x, int y, unsigned, unsigned colour, const char* text)
+{
+    if (Core* core = LivingCore()) {
+        core->DrawText(x, y, colour, text);
+    }
+}
+
+} // namespace zq::LM

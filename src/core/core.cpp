@@ -1,0 +1,185 @@
+// The Core: creation, destruction, pen input and parameters.
+#include "core/core.h"
+
+#include "core/bindings.h"
+#include "core/make_or_null.h"
+#include "ink/truncation.h"
+#include "interface/debug_log.h"
+#include "render/gdi.h"
+#include "render/key_fill.h"
+#include "render/rendering_type.h"
+#include "render/screen_colour.h"
+#include "render/text_conversion.h"
+
+#include <cstdio>
+
+namespace zq::LM {
+
+namespace {
+
+std::uint8_t g_previousColorPicker = 0; // the picking flag as the pen input before saw it; outlives instances
+
+} // namespace
+
+Core::Core(HMODULE module, unsigned creationValue)
+    : creationValue(creationValue), module(module), window(*this)
+{
+    constexpr std::size_t ReservedSamples = 1'048'576;
+    ReadVersion_();
+    sampleReserve.reserve(ReservedSamples);
+    CreateDrawing_();
+    BindCallbacks_();
+    CreateBackEnds_();
+}
+
+// The order is fixed: later members may use earlier ones until they are gone. The window itself is not
+// destroyed here.
+Core::~Core()
+{
+    ForgetWindowCore(this);
+    memorySurface.Release();
+    SetMemoryDCEverywhere_(nullptr);
+    drawing.reset();
+    params.reset();
+    paramsView.reset();
+    window.UnregisterHotkey();
+    window.StopTimer();
+    for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {
+        backEnd.reset();
+    }
+}
+
+void Core::ReadVersion_()
+{
+    fileVersion = ReadFileVersion(module);
+    const int length =
+        std::snprintf(g_logBuffer, LogBufferSize, "LumoraDLL.dll (%d, %d, %d, %d)", fileVersion.major,
+                      fileVersion.minor, fileVersion.build, fileVersion.revision);
+    if (length >= 0) {
+        LogA(BASIC, g_logBuffer);
+    }
+}
+
+void Core::CreateDrawing_()
+{
+    drawing = MakeOrNull<Drawing>();
+    params = MakeOrNull<Params>(DefaultParams);
+    if (drawing != nullptr) {
+        drawing->SetScale(renderScale);
+        drawing->GetCopiedParams(params.get());
+    }
+}
+
+void Core::BindCallbacks_()
+{
+    if (drawing == nullptr) {
+        return;
+    }
+    drawing->SetCallbacks(ClearCallback, PresentCallback, PickScreenColorCallback, DrawLineCallback,
+                          EraseLineCallback, DrawPenDataCallback);
+    drawing->SetDrawTextCallback(DrawTextCallback);
+    drawing->SetVectorOutline(g_renderingType == RenderingType::DirectComposition);
+}
+
+// In the order of RenderingType. DirectComposition and Direct2D have no back-end yet.
+void Core::CreateBackEnds_()
+{
+    backEnds.push_back(nullptr);
+    backEnds.push_back(nullptr);
+    backEnds.push_back(MakeOrNull<GDI>());
+}
+
+void Core::SetParams(const Params& source)
+{
+    if (params == nullptr) {
+        return;
+    }
+    *params = source;
+    PassParams_();
+    RefreshView_();
+}
+
+void Core::GetEngineParams(Params* out)
+{
+    if (drawing != nullptr) {
+        drawing->GetCopiedParams(out);
+    }
+}
+
+void Core::InputPenData(const PenData* samples, std::size_t count)
+{
+    if (samples == nullptr) {
+        return;
+    }
+    PassParams_();
+    if (count != 0) {
+        if (drawing != nullptr) {
+            drawing->AddPenDataAry(samples, count);
+        }
+        lastPenData = samples[count - 1];
+    }
+    ShowPickedColourOnce_();
+    window.Invalidate();
+}
+
+// Picking a colour ends inside a frame; the record's view hears of it with the next input.
+void Core::ShowPickedColourOnce_()
+{
+    if (params == nullptr) {
+        return;
+    }
+    if (g_previousColorPicker == 1 && params->colorPicker == 0) {
+        RefreshView_();
+    }
+    g_previousColorPicker = params->colorPicker;
+}
+
+void Core::ClearForRebuild()
+{
+    ClearWindowToKey(Window());
+    renderingTypeChanged = false;
+}
+
+DrawingLib* Core::ActiveBackEnd()
+{
+    const auto index = static_cast<std::size_t>(GetRenderingType());
+    return index < backEnds.size() ? backEnds[index].get() : nullptr;
+}
+
+unsigned Core::PickScreenColour(bool clearFlag)
+{
+    const unsigned colour = ColourUnderCursor();
+    if (params != nullptr) {
+        if (clearFlag) {
+            params->colorPicker = 0;
+        }
+        params->inkColor = colour;
+        PassParams_();
+    }
+    return colour;
+}
+
+void Core::DrawText(int x, int y, unsigned colour, const char* text)
+{
+    const WideText wide = ConvertToWide(text);
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        backEnd->DrawText(wide.data(), TruncateToSigned(x * renderScale), TruncateToSigned(y * renderScale),
+                          colour);
+    }
+}
+
+void Core::PassParams_()
+{
+    if (drawing != nullptr) {
+        drawing->SetParams(params.get());
+    }
+}
+
+void Core::RefreshView_()
+{
+    if (paramsView != nullptr) {
+        paramsView->Refresh();
+    }
+}
+
+} // namespace zq::LM

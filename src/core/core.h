@@ -1,0 +1,105 @@
+// The one instance: owns the parameter record, the ink engine, the back-ends and the overlay window, and runs
+// frames.
+#pragma once
+
+#include "core/library_version.h"
+#include "ink/drawing.h"
+#include "render/drawing_lib.h"
+#include "render/memory_surface.h"
+#include "settings/params_view.h"
+#include "ui/overlay_window.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace zq::LM {
+
+// Pen input comes on the host's thread; the window's timer and painting on the window's, which is the same
+// one in normal use. Nothing here is locked: only the ink engine guards its own data.
+class Core final : private WindowEvents {
+public:
+    using BackEnds = std::vector<std::unique_ptr<DrawingLib>>;
+
+    // The creation value is kept for the Core that follows a change of the back-end. Raises std::bad_alloc.
+    Core(HMODULE module, unsigned creationValue);
+    ~Core();
+    Core(const Core&) = delete;
+    Core& operator=(const Core&) = delete;
+
+    // Creates the overlay window and binds the active back-end to it. Null on failure.
+    HWND CreateOverlayWindow();
+
+    // Null before the window exists and after its destruction.
+    HWND Window() const { return window.Handle(); }
+    bool Owns(HWND handle, UINT message) const { return window.Owns(handle, message); }
+    LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+
+    // The Core's record, passed on to the ink engine and shown. The engine's copy, when there is an engine.
+    void SetParams(const Params& source);
+    void GetEngineParams(Params* out);
+
+    // Null is ignored. A count of 0 applies the parameters and repaints.
+    void InputPenData(const PenData* samples, std::size_t count);
+
+    // After a change of the back-end, the next pen input makes a new Core in this one's place.
+    bool IsRebuildDue() const { return renderingTypeChanged; }
+    void ClearForRebuild();
+    HMODULE Module() const { return module; }
+    unsigned CreationValue() const { return creationValue; }
+
+    // What the callbacks need.
+    DrawingLib* ActiveBackEnd(); // null where a back-end does not exist
+    unsigned PickScreenColour(bool clearFlag);
+    void DrawText(int x, int y, unsigned colour, const char* text);
+
+    // The index is the RenderingType.
+    BackEnds& AllBackEnds() { return backEnds; }
+
+    void SetParamsView(std::unique_ptr<ParamsView> view) { paramsView = std::move(view); }
+
+    // Facts for diagnosis.
+    const Params* Record() const { return params.get(); }
+    const PenData& LastPenData() const { return lastPenData; }
+    const FileVersion& Version() const { return fileVersion; }
+    const OverlayWindow& Overlay() const { return window; }
+
+private:
+    void OnCreated() override;
+    void OnPaint() override;
+    void OnTick() override;
+    void OnCommand(unsigned id) override;
+
+    void ReadVersion_();
+    void CreateDrawing_();
+    void BindCallbacks_();
+    void CreateBackEnds_();
+
+    void SetUpWindow_();
+    void SetUpMemorySurface_();
+    void SetMemoryDCEverywhere_(HDC dc);
+    void ClearWindowIfMemoryDrawn_();
+    bool FollowScreen_();
+    void DrawFrame_();
+    void PaintFromMemory_();
+
+    void PassParams_();
+    void RefreshView_();
+    void ShowPickedColourOnce_();
+
+    bool renderingTypeChanged = false;
+    std::unique_ptr<Params> params;
+    std::unique_ptr<Drawing> drawing;
+    double renderScale = 1.0; // window pixels to memory bitmap; nothing changes it
+    unsigned creationValue;
+    HMODULE module;
+    OverlayWindow window;
+    std::vector<PenData> sampleReserve; // memory kept at hand; holds nothing
+    PenData lastPenData{};              // the last sample of the most recent input
+    BackEnds backEnds;
+    std::unique_ptr<ParamsView> paramsView; // null until there is a settings dialog
+    FileVersion fileVersion;
+    MemorySurface memorySurface;
+};
+
+} // namespace zq::LM

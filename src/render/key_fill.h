@@ -1,0 +1,14 @@
+// Filling with one colour, as frames and cleared windows begin.
+#pragma once
+
+#include "platform/win32/windows_header.h"
+
+namespace zq::LM {
+
+// Fills a rectangle whose left and top are 0: right and bottom are used as width and height.
+void FillRectangle(HDC dc, const RECT& rectangle, COLORREF colour);
+
+// Fills a window's client area with the transparent key. Does nothing without a window.
+void ClearWindowToKey(HWND window);
+
+} // namespace zq::LM

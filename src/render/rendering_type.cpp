@@ -1,0 +1,33 @@
+// Which back-end is active, for the whole process.
+#include "render/rendering_type.h"
+
+#include "interface/debug_log.h"
+
+namespace zq::LM {
+
+RenderingType g_renderingType = RenderingType::DirectComposition;
+
+namespace {
+
+const wchar_t* ConsultedLine(RenderingType type)
+{
+    switch (type) {
+    case RenderingType::DirectComposition:
+        return L"Rendering type is Direct Composition.\n";
+    case RenderingType::Direct2D:
+        return L"Rendering type is Direct2D.\n";
+    case RenderingType::GDI:
+        return L"Rendering type is DirectGDI.\n"; // the log's own name for GDI
+    }
+    return L"";
+}
+
+} // namespace
+
+RenderingType GetRenderingType()
+{
+    Log(DETAILED, ConsultedLine(g_renderingType));
+    return g_renderingType;
+}
+
+} // namespace zq::LM

@@ -1,0 +1,14 @@
+// The shell's desktop window, which says where the screen is.
+#pragma once
+
+#include "platform/win32/windows_header.h"
+
+#include <optional>
+
+namespace zq::LM {
+
+// Nothing when there is no shell window.
+std::optional<RECT> ShellWindowRect();
+std::optional<RECT> ShellClientRect();
+
+} // namespace zq::LM

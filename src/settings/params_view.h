@@ -1,0 +1,17 @@
+// What shows the parameter record to a person and follows its changes.
+#pragma once
+
+namespace zq::LM {
+
+class ParamsView {
+public:
+    ParamsView() = default;
+    virtual ~ParamsView() = default;
+    ParamsView(const ParamsView&) = delete;
+    ParamsView& operator=(const ParamsView&) = delete;
+
+    // The record that it was given has changed.
+    virtual void Refresh() = 0;
+};
+
+} // namespace zq::LM

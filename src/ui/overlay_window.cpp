@@ -1,0 +1,169 @@
+// The overlay window: its class, its creation and its message table.
+#include "ui/overlay_window.h"
+
+#include "interface/debug_log.h"
+#include "render/rendering_type.h"
+#include "render/shell_window.h"
+
+#include <cwchar>
+#include <iterator>
+
+namespace zq::LM {
+
+namespace {
+
+// Where the overlay lies when there is no shell.
+constexpr RECT ScreenWithoutShell = {0, 0, 256, 256};
+
+unsigned g_classCounter = 0;
+
+int Width(const RECT& rectangle) { return rectangle.right - rectangle.left; }
+int Height(const RECT& rectangle) { return rectangle.bottom - rectangle.top; }
+
+} // namespace
+
+OverlayWindow::OverlayWindow(WindowEvents& events)
+    : events(events), screen(ShellWindowRect().value_or(ScreenWithoutShell))
+{
+}
+
+bool OverlayWindow::RegisterWindowClass(HMODULE module, WNDPROC procedure)
+{
+    constexpr unsigned CounterBits = 0xFFFF;
+    static_cast<void>( // the name always fits
+        std::swprintf(className, std::size(className), L"%ls_%05d", L"Lumora Window Class", g_classCounter));
+    g_classCounter = (g_classCounter + 1) & CounterBits;
+
+    windowClass = {};
+    windowClass.cbSize = sizeof(windowClass);
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = procedure;
+    windowClass.hInstance = module;
+    windowClass.hCursor =
+        static_cast<HCURSOR>(LoadImageW(nullptr, IDC_ARROW, IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE | LR_SHARED));
+    windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    windowClass.lpszClassName = className;
+    return RegisterClassExW(&windowClass) != 0;
+}
+
+HWND OverlayWindow::Create()
+{
+    DWORD extendedStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
+    if (GetRenderingType() == RenderingType::DirectComposition) {
+        extendedStyle |= WS_EX_NOREDIRECTIONBITMAP; // shows its composition visual and nothing else
+    }
+    const RECT place = ShellWindowRect().value_or(screen);
+    return CreateWindowExW(extendedStyle, className, L"Lumora DLL Window", WS_POPUP | WS_VISIBLE, place.left,
+                           place.top, Width(place), Height(place), nullptr, nullptr, windowClass.hInstance,
+                           nullptr);
+}
+
+LRESULT OverlayWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_CREATE:
+        LogAtNormal(L"WM_CREATE ... ");
+        window = handle;
+        events.OnCreated();
+        Log(g_frameLogLevel, L"done\n");
+        return 0;
+    case WM_DESTROY:
+        LogAtNormal(L"WM_DESTROY ... ");
+        PostQuitMessage(0);
+        hotkey.ForgetWindow();
+        timer.ForgetWindow();
+        window = nullptr;
+        Log(g_frameLogLevel, L"done\n");
+        return 0;
+    case WM_PAINT:
+        Log(g_frameLogLevel, L"WM_PAINT ... ");
+        events.OnPaint();
+        Log(g_frameLogLevel, L"done\n");
+        return 0;
+    case WM_COMMAND:
+        LogAtNormal(L"WM_COMMAND ... ");
+        events.OnCommand(LOWORD(wParam));
+        Log(g_frameLogLevel, L"done\n");
+        return 0;
+    case WM_TIMER:
+        Log(g_frameLogLevel, L"WM_TIMER ... ");
+        events.OnTick();
+        Log(g_frameLogLevel, L"done.\n");
+        return 0;
+    case WM_HOTKEY: // any registered hotkey opens the tray's menu, by the tray's own way: hence both pairs of
+                    // lines
+        Log(g_frameLogLevel, L"WM_HOTKEY ... ");
+        Log(g_frameLogLevel, L"WM_USER_DEF_TRAY_MESSAGE ... ");
+        Log(g_frameLogLevel, L"done.\n");
+        Log(g_frameLogLevel, L"done.\n");
+        return 0;
+    default:
+        return DefWindowProcW(handle, message, wParam, lParam);
+    }
+}
+
+bool OverlayWindow::Owns(HWND handle, UINT message) const
+{
+    return handle == window || (window == nullptr && message == WM_CREATE);
+}
+
+void OverlayWindow::MeasurePixels()
+{
+    HDC dc = GetDC(window); // never released: one device context stays behind for each window made
+    const RECT shell = ShellWindowRect().value_or(screen);
+    const int widthMm = GetDeviceCaps(dc, HORZSIZE);
+    const int heightMm = GetDeviceCaps(dc, VERTSIZE);
+    if (widthMm > 0) {
+        pixelsPerMm.x = static_cast<double>(shell.right) / widthMm;
+    }
+    if (heightMm > 0) {
+        pixelsPerMm.y = static_cast<double>(shell.bottom) / heightMm;
+    }
+}
+
+void OverlayWindow::StartTimer()
+{
+    constexpr UINT PeriodMilliseconds = 50;
+    timer.Start(window, PeriodMilliseconds);
+}
+
+void OverlayWindow::MakeClickThrough()
+{
+    const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
+    SetWindowLongW(window, GWL_EXSTYLE, style | WS_EX_TRANSPARENT | WS_EX_LAYERED);
+}
+
+bool OverlayWindow::FitToScreen()
+{
+    RECT client{};
+    GetClientRect(window, &client);
+    // Only when both differ.
+    if (Width(client) == Width(screen) || Height(client) == Height(screen)) {
+        return false;
+    }
+    SetWindowPos(window, HWND_TOPMOST, 0, 0, Width(screen), Height(screen), SWP_SHOWWINDOW);
+    return true;
+}
+
+bool OverlayWindow::FollowScreen()
+{
+    const std::optional<RECT> shell = ShellWindowRect();
+    if (!shell || EqualRect(&*shell, &screen)) {
+        return false;
+    }
+    screen = *shell;
+    SetWindowPos(window, HWND_TOPMOST, screen.left, screen.top, Width(screen), Height(screen),
+                 SWP_SHOWWINDOW);
+    return true;
+}
+
+void OverlayWindow::Invalidate()
+{
+    if (window == nullptr) {
+        return; // a null window would be the whole desktop
+    }
+    Log(g_frameLogLevel, L"InvalidateRect is called.\n");
+    InvalidateRect(window, nullptr, FALSE);
+}
+
+} // namespace zq::LM

@@ -1,0 +1,70 @@
+// The overlay window: borderless, topmost, click-through, over the shell's desktop.
+#pragma once
+
+#include "platform/win32/windows_header.h"
+#include "ui/hotkey.h"
+#include "ui/window_events.h"
+#include "ui/window_timer.h"
+
+namespace zq::LM {
+
+// Screen pixels per millimetre.
+struct PixelDensity {
+    double x = 1.0;
+    double y = 1.0;
+};
+
+// Belongs to the thread that creates it. Never destroys its window: whoever ends the instance does, and a
+// change of the back-end leaves the window behind on purpose.
+class OverlayWindow {
+public:
+    explicit OverlayWindow(WindowEvents& events);
+    ~OverlayWindow() = default;
+    OverlayWindow(const OverlayWindow&) = delete;
+    OverlayWindow& operator=(const OverlayWindow&) = delete;
+
+    // Registers a window class of a name that no earlier window has; classes are never unregistered, because
+    // a window that is left behind keeps living with its own.
+    bool RegisterWindowClass(HMODULE module, WNDPROC procedure);
+
+    // Creates the window; its creation messages arrive before this returns. Null on failure.
+    HWND Create();
+
+    // Serves one message of this window, by its table.
+    LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+
+    // True for the messages of this window, and for the creation of the one that is to become it.
+    bool Owns(HWND handle, UINT message) const;
+
+    HWND Handle() const { return window; } // null before creation and after destruction
+
+    // Steps of creation and set-up.
+    void MeasurePixels();
+    void StartTimer();
+    void StopTimer() { timer.Stop(); }
+    void MakeClickThrough();
+    bool FitToScreen(); // true when it had to change the window's size
+    void RegisterHotkey() { hotkey.Register(window); }
+    void UnregisterHotkey() { hotkey.Unregister(); }
+
+    // Follows the shell's desktop; true when that had moved or changed its size.
+    bool FollowScreen();
+
+    // Asks for a repaint without erasing. Does nothing without a window.
+    void Invalidate();
+
+    const RECT& Screen() const { return screen; }
+    PixelDensity Density() const { return pixelsPerMm; }
+
+private:
+    WindowEvents& events;
+    HWND window = nullptr;
+    WNDCLASSEXW windowClass{};
+    wchar_t className[256]{};
+    RECT screen; // the shell's desktop, or a stand-in when there is no shell
+    PixelDensity pixelsPerMm;
+    Hotkey hotkey;
+    WindowTimer timer;
+};
+
+} // namespace zq::LM

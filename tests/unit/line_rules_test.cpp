@@ -1,0 +1,94 @@
+// What a line callback decides before it hands a segment to a back-end.
+#include "render/line_rules.h"
+
+#include <gtest/gtest.h>
+
+namespace zq::LM {
+namespace {
+
+TEST(LineColours, KeyAndSubstituteHaveTheseValues)
+{
+    EXPECT_EQ(g_colorKey, 0x00FF00FFU);
+    EXPECT_EQ(g_colorKeySubstitute, 0x00FE00FFU);
+}
+
+TEST(MixColours, EqualColoursGiveThatColour)
+{
+    for (const std::uint32_t colour : {0U, 0x00202020U, 0x00FFFFFFU, 0xFFFFFFFFU, 0x12345678U}) {
+        EXPECT_EQ(MixColors(colour, colour), colour);
+    }
+}
+
+TEST(MixColours, CarriesBitsAcrossChannels) { EXPECT_EQ(MixColors(0x000000FF, 0x0000FF00), 0x00007FFFU); }
+
+TEST(MixColours, OrsWhereAMeanWouldAdd)
+{
+    EXPECT_EQ(MixColors(0x00000003, 0x00000001), 0x00000001U);
+    EXPECT_EQ(MixColors(0x00000005, 0x00000003), 0x00000003U); // 1 | 6 >> 1; the mean is 4
+}
+
+TEST(MixColours, TakesAll32Bits)
+{
+    EXPECT_EQ(MixColors(0xFF000000, 0x00000000), 0x7F800000U);
+    EXPECT_EQ(MixColors(0xFF000000, 0xFF000000), 0xFF000000U);
+}
+
+TEST(MixColours, TakesEitherOrder)
+{
+    EXPECT_EQ(MixColors(0x00123456, 0x00FEDCBA), MixColors(0x00FEDCBA, 0x00123456));
+}
+
+TEST(InkLineColour, KeyBecomesTheSubstitute)
+{
+    EXPECT_EQ(InkLineColour(0x00FF00FF, 0x00FF00FF), 0xFFFE00FFU);
+}
+
+TEST(InkLineColour, MixedColourIsOpaque) { EXPECT_EQ(InkLineColour(0x000000FF, 0x0000FF00), 0xFF007FFFU); }
+
+TEST(InkLineColour, KeyIsComparedOverAllBitsBeforeTheAlpha)
+{
+    EXPECT_EQ(InkLineColour(0x01FF00FF, 0x01FF00FF), 0xFFFF00FFU);
+    EXPECT_EQ(InkLineColour(0xFFFF00FF, 0xFFFF00FF), 0xFFFF00FFU);
+}
+
+TEST(InkLineColour, KeyThatComesFromMixingIsReplacedToo)
+{
+    static_assert(MixColors(0x01FE01FE, 0x00000000) == 0x00FF00FF);
+    EXPECT_EQ(InkLineColour(0x01FE01FE, 0x00000000), 0xFFFE00FFU);
+}
+
+TEST(InkLineColour, EndsInTheKeyThatMixToAnotherColourKeepIt)
+{
+    EXPECT_EQ(InkLineColour(0x00FF00FF, 0x00000000), 0xFF7F807FU);
+}
+
+TEST(InkLineColour, SubstituteItselfStays) { EXPECT_EQ(InkLineColour(0x00FE00FF, 0x00FE00FF), 0xFFFE00FFU); }
+
+TEST(MixWidths, IsHalfTheSumRoundedDown)
+{
+    EXPECT_EQ(MixWidths(3, 4), 3U);
+    EXPECT_EQ(MixWidths(10, 10), 10U);
+    EXPECT_EQ(MixWidths(0, 0), 0U);
+}
+
+TEST(MixWidths, SumWrapsAt32Bits)
+{
+    EXPECT_EQ(MixWidths(0xFFFFFFFF, 1), 0U);
+    EXPECT_EQ(MixWidths(0xFFFFFFFF, 0xFFFFFFFF), 0x7FFFFFFFU);
+    EXPECT_EQ(MixWidths(0x80000000, 0x80000000), 0U);
+}
+
+TEST(HalfWidthSum, KeepsTheHalf)
+{
+    EXPECT_EQ(HalfWidthSum(3, 4), 3.5F);
+    EXPECT_EQ(HalfWidthSum(10, 10), 10.0F);
+}
+
+TEST(HalfWidthSum, SumWrapsAt32Bits)
+{
+    EXPECT_EQ(HalfWidthSum(0xFFFFFFFF, 1), 0.0F);
+    EXPECT_EQ(HalfWidthSum(0xFFFFFFFF, 4), 1.5F);
+}
+
+} // namespace
+} // namespace zq::LM
