@@ -1,0 +1,46 @@
+// The common set-up of tests that drive the real library.
+#include "support/overlay_test.h"
+
+namespace zq::LM::test {
+
+HWND OverlayTest::CreateWithGDI()
+{
+    library.Create();
+    Choose(ChooseGDI);
+    DestroyAndForget();
+    return library.Create();
+}
+
+void OverlayTest::DestroyAndForget()
+{
+    library.Destroy();
+    PumpMessages();
+}
+
+LM_Params OverlayTest::Params() const
+{
+    LM_Params params{};
+    library.GetCopiedParams(&params);
+    return params;
+}
+
+void OverlayTest::Input(const std::vector<LM_PenData>& samples) const
+{
+    library.InputPenDataArray(samples.data(), samples.size());
+}
+
+void OverlayTest::Paint() const
+{
+    UpdateWindow(library.GetWindowHandle());
+    SettleScreen();
+}
+
+void OverlayTest::InputAndPaint(const std::vector<LM_PenData>& samples) const
+{
+    Input(samples);
+    Paint();
+}
+
+void OverlayTest::TearDown() { DestroyAndForget(); }
+
+} // namespace zq::LM::test

@@ -1,0 +1,64 @@
+// The common set-up of tests that drive the real library: it is loaded fresh, and the system around it stands
+// still.
+#pragma once
+
+#include "support/library.h"
+#include "support/screen.h"
+#include "support/system_stand_ins.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <optional>
+#include <vector>
+
+namespace zq::LM::test {
+
+// Commands of the overlay window.
+inline constexpr WPARAM ChooseDirectComposition = 40020;
+inline constexpr WPARAM ChooseDirect2D = 40021;
+inline constexpr WPARAM ChooseGDI = 40022;
+
+inline constexpr int FullPressure = 32767;
+
+inline LM_PenData Sample(int x, int y, int pressure = FullPressure)
+{
+    LM_PenData sample{};
+    sample.time = 1;
+    sample.x = x;
+    sample.y = y;
+    sample.pressure = pressure;
+    return sample;
+}
+
+class OverlayTest : public ::testing::Test {
+protected:
+    static constexpr RECT Desktop = {200, 60, 840, 540};
+
+    // The instance with the GDI back-end active from its start, so that no window of another back-end is left
+    // behind.
+    HWND CreateWithGDI();
+
+    // Takes the quit message of the destroyed window out of the queue.
+    void DestroyAndForget();
+
+    LM_Params Params() const;
+    void SetParams(const LM_Params& params) const { library.SetParams(&params); }
+    void Input(const std::vector<LM_PenData>& samples) const;
+    void Paint() const; // and waits until it is on the screen
+    void InputAndPaint(const std::vector<LM_PenData>& samples) const;
+    void Tick() const { SendMessageW(library.GetWindowHandle(), WM_TIMER, 12345, 0); }
+    void Choose(WPARAM command) const { SendMessageW(library.GetWindowHandle(), WM_COMMAND, command, 0); }
+    bool IsInvalid() const { return GetUpdateRect(library.GetWindowHandle(), nullptr, FALSE) != 0; }
+
+    void TearDown() override;
+
+    Library library;
+    ClockStandIn clock{library.Module()};
+    DebuggerStandIn debugger{library.Module()};
+    ShellStandIn shell{library.Module(), Desktop};
+    TimerStandIn timer{library.Module()};
+};
+
+} // namespace zq::LM::test

@@ -1,0 +1,56 @@
+// The library built with its debug switch on: it logs from the start and leaves its user interface alone.
+#include "support/overlay_test.h"
+#include "support/watched_call.h"
+
+namespace zq::LM {
+namespace {
+
+using test::LogLine;
+using test::OverlayTest;
+using test::WatchedCall;
+using Lines = std::vector<LogLine>;
+
+class DebugSwitch : public OverlayTest {
+protected:
+    WatchedCall<decltype(RegisterHotKey)> hotkeys{library.Module(), "USER32.dll", "RegisterHotKey"};
+};
+
+TEST_F(DebugSwitch, LogsAtLevelOneFromTheStart)
+{
+    library.GetWindowHandle();
+    library.InputPenDataArray(nullptr, 0); // level 2
+    EXPECT_EQ(debugger.Lines(), (Lines{{true, "zq::CallFunc::GetWindowHandle\n"}}));
+}
+
+TEST_F(DebugSwitch, HasBothLinesOfTheFirstSetLevel)
+{
+    library.SetDebugLevel(1);
+    EXPECT_EQ(debugger.Lines(),
+              (Lines{{true, "zq::CallFunc::SetDebugLevel\n"}, {true, "Debug level set\n"}}));
+}
+
+TEST_F(DebugSwitch, CanBeSilenced)
+{
+    library.SetDebugLevel(0);
+    debugger.Clear();
+    library.Create();
+    EXPECT_EQ(debugger.Lines(), Lines{});
+}
+
+TEST_F(DebugSwitch, CreatesNoUserInterfaceByItself)
+{
+    EXPECT_NE(library.Create(), nullptr);
+    EXPECT_EQ(hotkeys.Count(), 0U);
+}
+
+TEST_F(DebugSwitch, LetsNoLevelTurnTheUserInterfaceOn)
+{
+    for (const std::uint32_t level : {1U, 2U, 255U}) {
+        library.SetDebugLevel(level);
+        EXPECT_NE(library.Create(), nullptr);
+        EXPECT_EQ(hotkeys.Count(), 0U);
+    }
+}
+
+} // namespace
+} // namespace zq::LM

@@ -1,0 +1,114 @@
+// The library's version: in its file, and in the log when an instance is created.
+#include "support/overlay_test.h"
+#include "support/watched_call.h"
+
+#include <string>
+
+namespace zq::LM {
+namespace {
+
+using test::LogLine;
+using test::OverlayTest;
+using test::WatchedCall;
+
+class Version : public OverlayTest {
+protected:
+    // All lines of one creation at the level of the version line.
+    std::vector<LogLine> CreationLines(std::uint32_t level = 1)
+    {
+        library.SetDebugLevel(level);
+        debugger.Clear();
+        library.Create();
+        return debugger.Lines();
+    }
+
+    static std::string LineOf(int major, int minor, int build, int revision)
+    {
+        return "LumoraDLL.dll (" + std::to_string(major) + ", " + std::to_string(minor) + ", " +
+               std::to_string(build) + ", " + std::to_string(revision) + ")";
+    }
+
+    void ExpectVersionZero()
+    {
+        EXPECT_EQ(CreationLines(),
+                  (std::vector<LogLine>{{true, "zq::CallFunc::Create\n"}, {false, LineOf(0, 0, 0, 0)}}));
+        EXPECT_TRUE(IsWindow(library.GetWindowHandle()));
+    }
+};
+
+TEST_F(Version, IsLoggedNarrowAndWithoutALineEndAfterTheExportsLine)
+{
+    EXPECT_EQ(CreationLines(),
+              (std::vector<LogLine>{{true, "zq::CallFunc::Create\n"},
+                                    {false, LineOf(LUMORA_VERSION_MAJOR, LUMORA_VERSION_MINOR,
+                                                   LUMORA_VERSION_BUILD, LUMORA_VERSION_REVISION)}}));
+}
+
+TEST_F(Version, IsNotLoggedAtLevelZero) { EXPECT_TRUE(CreationLines(0).empty()); }
+
+TEST_F(Version, IsLoggedByEveryNewCore)
+{
+    CreationLines();
+    const std::vector<LogLine> first = debugger.Lines();
+    EXPECT_EQ(CreationLines(), first);
+    Choose(test::ChooseGDI);
+    debugger.Clear();
+    Input({test::Sample(100, 100)}); // rebuilds; pen input itself is logged from level 2 on
+    EXPECT_EQ(debugger.Lines(), (std::vector<LogLine>{first.at(1)}));
+}
+
+TEST_F(Version, IsZeroWhenItsSizeCannotBeRead)
+{
+    WatchedCall<decltype(GetFileVersionInfoSizeW)> size(library.Module(), "VERSION.dll",
+                                                        "GetFileVersionInfoSizeW");
+    size.Refuse(DWORD{0});
+    ExpectVersionZero();
+    EXPECT_EQ(size.Count(), 1U);
+}
+
+TEST_F(Version, IsZeroWhenItsBlockCannotBeRead)
+{
+    WatchedCall<decltype(GetFileVersionInfoW)> block(library.Module(), "VERSION.dll", "GetFileVersionInfoW");
+    block.Refuse(FALSE);
+    ExpectVersionZero();
+    EXPECT_EQ(block.Count(), 1U);
+}
+
+TEST_F(Version, IsZeroWhenItsNumbersCannotBeFound)
+{
+    WatchedCall<decltype(VerQueryValueW)> query(library.Module(), "VERSION.dll", "VerQueryValueW");
+    query.Refuse(FALSE);
+    ExpectVersionZero();
+    EXPECT_EQ(query.Count(), 1U);
+}
+
+TEST_F(Version, IsReadFromTheLibrarysOwnFile)
+{
+    WatchedCall<decltype(GetModuleFileNameW)> name(library.Module(), "KERNEL32.dll", "GetModuleFileNameW");
+    library.Create();
+    ASSERT_EQ(name.Count(), 1U);
+    EXPECT_EQ(std::get<0>(name.Calls()[0]), library.Module());
+}
+
+TEST(VersionResource, OfTheFileHasTheHeadersNumbers)
+{
+    const DWORD size = GetFileVersionInfoSizeW(test::LibraryPath(), nullptr);
+    ASSERT_NE(size, 0U);
+    std::vector<unsigned char> block(size);
+    ASSERT_TRUE(GetFileVersionInfoW(test::LibraryPath(), 0, size, block.data()));
+    VS_FIXEDFILEINFO* info = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&info), &length));
+    ASSERT_EQ(length, sizeof(*info));
+    for (const auto& [high, low] : {std::pair{info->dwFileVersionMS, info->dwFileVersionLS},
+                                    std::pair{info->dwProductVersionMS, info->dwProductVersionLS}}) {
+        EXPECT_EQ(HIWORD(high), LUMORA_VERSION_MAJOR);
+        EXPECT_EQ(LOWORD(high), LUMORA_VERSION_MINOR);
+        EXPECT_EQ(HIWORD(low), LUMORA_VERSION_BUILD);
+        EXPECT_EQ(LOWORD(low), LUMORA_VERSION_REVISION);
+    }
+    EXPECT_EQ(info->dwFileType, DWORD{VFT_DLL});
+}
+
+} // namespace
+} // namespace zq::LM

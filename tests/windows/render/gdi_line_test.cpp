@@ -1,0 +1,162 @@
+// The lines of the GDI back-end: what it asks of GDI+ and GDI, and the pixels that come of it.
+#include "render/gdi.h"
+#include "render/gdi_lines.h"
+
+#include "support/graphics_recorder.h"
+#include "support/test_bitmap.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zq::LM {
+
+namespace {
+
+using test::GraphicsRecorder;
+using test::Picture;
+using test::TestBitmap;
+using testing::Contains;
+using testing::ElementsAre;
+
+constexpr COLORREF Green = 0x00008000;
+constexpr COLORREF Red = 0x000000FF;
+constexpr unsigned OpaqueRed = 0xFF0000FF;
+
+class GdiLineTest : public testing::Test {
+protected:
+    GdiLineTest() { gdi.SetMemoryDC(bitmap.DC()); }
+
+    TestBitmap bitmap{120, 100, Green};
+    GDI gdi;
+};
+
+// What DrawLine asks of the system, as one list.
+class GdiLineCallsTest : public GdiLineTest {
+protected:
+    GdiLineCallsTest() { calls.Name(bitmap.DC(), "dc"); }
+
+    std::vector<std::string> Draw(unsigned width1, unsigned colour1, unsigned width2, unsigned colour2)
+    {
+        gdi.DrawLine(10, 20, width1, colour1, 30, 40, width2, colour2);
+        return calls.Take();
+    }
+
+    GraphicsRecorder calls;
+};
+
+TEST_F(GdiLineCallsTest, EachSegmentMakesAndDeletesItsGraphicsAndPen)
+{
+    EXPECT_THAT(Draw(1, OpaqueRed, 2, OpaqueRed),
+                ElementsAre("GdipCreateFromHDC(dc, out) = graphics",
+                            "GdipCreatePen1(0xffff0000, 1.5, 0, out) = pen", "GdipSetPenStartCap(pen, 2)",
+                            "GdipSetPenEndCap(pen, 2)", "GdipDrawLineI(graphics, pen, 10, 20, 30, 40)",
+                            "GdipDeletePen(pen)", "GdipDeleteGraphics(graphics)"));
+}
+
+TEST_F(GdiLineCallsTest, ASecondSegmentKeepsNothingOfTheFirst)
+{
+    EXPECT_EQ(Draw(10, OpaqueRed, 10, OpaqueRed), Draw(10, OpaqueRed, 10, OpaqueRed));
+}
+
+TEST_F(GdiLineCallsTest, RedAndBlueChangePlacesAndAlphaStays)
+{
+    EXPECT_THAT(Draw(2, 0x80112233, 2, 0x80112233), Contains("GdipCreatePen1(0x80332211, 2, 0, out) = pen"));
+}
+
+TEST_F(GdiLineCallsTest, ColoursOfTheEndsAreMixed)
+{
+    EXPECT_THAT(Draw(2, 0xFF0000FF, 2, 0xFF00FF00), Contains("GdipCreatePen1(0xffff7f00, 2, 0, out) = pen"));
+}
+
+TEST_F(GdiLineCallsTest, AlphaIsMixedWithoutASign)
+{
+    EXPECT_THAT(Draw(2, 0x80000000, 2, 0x00000000), Contains("GdipCreatePen1(0x40000000, 2, 0, out) = pen"));
+}
+
+TEST_F(GdiLineCallsTest, TheSumOfTheWidthsWraps)
+{
+    EXPECT_THAT(Draw(0xFFFFFFFF, OpaqueRed, 3, OpaqueRed),
+                Contains("GdipCreatePen1(0xffff0000, 1, 0, out) = pen"));
+}
+
+TEST_F(GdiLineTest, IsDrawnInItsColourAndWidth)
+{
+    gdi.DrawLine(40, 50, 10, OpaqueRed, 80, 50, 10, OpaqueRed);
+    const Picture picture = bitmap.Look();
+    EXPECT_EQ(picture.At(60, 50), Red);
+    EXPECT_EQ(picture.At(60, 46), Red);
+    EXPECT_EQ(picture.At(60, 53), Red);
+    EXPECT_EQ(picture.At(60, 43), Green);
+    EXPECT_EQ(picture.At(60, 57), Green);
+}
+
+TEST_F(GdiLineTest, HasRoundEnds)
+{
+    gdi.DrawLine(40, 50, 20, OpaqueRed, 80, 50, 20, OpaqueRed);
+    const Picture picture = bitmap.Look();
+    EXPECT_EQ(picture.At(32, 50), Red) << picture.Print(Green, {0, 0, 120, 100});
+    EXPECT_EQ(picture.At(88, 50), Red);
+    EXPECT_EQ(picture.At(32, 42), Green) << "a square end would cover this corner";
+    EXPECT_EQ(picture.At(88, 58), Green);
+}
+
+TEST_F(GdiLineTest, FromAPointToItselfIsARoundDot)
+{
+    gdi.DrawLine(60, 50, 40, OpaqueRed, 60, 50, 40, OpaqueRed);
+    const Picture picture = bitmap.Look();
+    EXPECT_EQ(picture.At(60, 50), Red);
+    EXPECT_EQ(picture.At(44, 50), Red);
+    EXPECT_EQ(picture.At(76, 50), Red);
+    EXPECT_EQ(picture.At(60, 34), Red);
+    EXPECT_EQ(picture.At(44, 34), Green);
+    EXPECT_EQ(picture.At(76, 66), Green);
+}
+
+TEST_F(GdiLineTest, WithAlpha0LeavesTheBitmapAsItWas)
+{
+    gdi.DrawLine(20, 50, 30, 0x00FF00FF, 100, 50, 30, 0x00FF00FF);
+    EXPECT_EQ(bitmap.Look().Count(Green), 120U * 100U);
+}
+
+TEST_F(GdiLineTest, WithHalfAlphaLetsTheBitmapShine)
+{
+    gdi.DrawLine(20, 50, 30, 0x800000FF, 100, 50, 30, 0x800000FF);
+    const COLORREF mixed = bitmap.Look().At(60, 50);
+    EXPECT_NEAR(GetRValue(mixed), 128, 2);
+    EXPECT_NEAR(GetGValue(mixed), 64, 2);
+    EXPECT_NEAR(GetBValue(mixed), 0, 2);
+}
+
+GdiLine RedLine(unsigned width1, unsigned width2)
+{
+    return {.x1 = 40, .y1 = 50, .width1 = width1, .x2 = 80, .y2 = 50, .width2 = width2, .colour = OpaqueRed};
+}
+
+TEST_F(GdiLineCallsTest, APlainLineUsesAnInsideFramePenAndGivesItBack)
+{
+    DrawPlainLine(bitmap.DC(), RedLine(1, 2));
+    EXPECT_THAT(calls.Take(), ElementsAre("CreatePen(6, 1, 0xff) = pen", "SelectObject(dc, pen) = previous",
+                                          "MoveToEx(dc, 40, 50, null)", "LineTo(dc, 80, 50)",
+                                          "SelectObject(dc, previous) = pen", "DeleteObject(pen)"));
+}
+
+TEST_F(GdiLineTest, APlainLineOfWidths1And2IsOnePixelWide)
+{
+    DrawPlainLine(bitmap.DC(), RedLine(1, 2));
+    const Picture picture = bitmap.Look();
+    EXPECT_EQ(picture.At(60, 50), Red);
+    EXPECT_EQ(picture.At(60, 49), Green);
+    EXPECT_EQ(picture.At(60, 51), Green);
+}
+
+TEST_F(GdiLineTest, APlainLineIgnoresTheAlphaByte)
+{
+    GdiLine line = RedLine(9, 9);
+    line.colour = 0x000000FF;
+    DrawPlainLine(bitmap.DC(), line);
+    EXPECT_EQ(bitmap.Look().At(60, 50), Red);
+}
+
+} // namespace
+
+} // namespace zq::LM

@@ -1,0 +1,86 @@
+// Ink of the real library over a green window on the real screen: what the pixel tests start from.
+#pragma once
+
+#include "support/import_patch.h"
+#include "support/overlay_test.h"
+
+namespace zq::LM::test {
+
+// Positions are the pen's, which are the overlay's own: the picture of Look() uses them too.
+class InkOnScreen : public OverlayTest {
+protected:
+    static constexpr COLORREF Green = RGB(0, 128, 0);
+    static constexpr COLORREF Red = RGB(255, 0, 0);
+    static constexpr COLORREF Blue = RGB(0, 0, 255);
+    static constexpr COLORREF White = RGB(255, 255, 255);
+    static constexpr COLORREF Black = RGB(0, 0, 0);
+    static constexpr RECT All = {0, 0, Desktop.right - Desktop.left, Desktop.bottom - Desktop.top};
+
+    // Red strokes of one width that live for a second, and nothing else.
+    void SetUp() override
+    {
+        CreateWithGDI();
+        params = Params();
+        params.inkDecayTime = 1000;
+        params.inkColor = Red;
+        params.brushSize = 10;
+        params.cursor = 0;
+        params.usePressure = 0;
+        Apply();
+        Paint();
+    }
+
+    void Apply() const { SetParams(params); }
+
+    // A horizontal stroke of two samples.
+    void Stroke(int left, int right, int y, int pressure = FullPressure) const
+    {
+        InputAndPaint({Sample(left, y, pressure), Sample(right, y, pressure)});
+    }
+
+    // An input without samples repaints.
+    void Refresh() const
+    {
+        const LM_PenData unread{};
+        library.InputPenDataArray(&unread, 0);
+        Paint();
+    }
+
+    static Picture Look(const RECT& part = All)
+    {
+        HDC screen = GetDC(nullptr);
+        SetViewportOrgEx(screen, Desktop.left, Desktop.top, nullptr);
+        Picture picture = TakePicture(screen, part);
+        ReleaseDC(nullptr, screen);
+        return picture;
+    }
+
+    // How many pixels of one column have this colour.
+    static int CountInColumn(const Picture& picture, int x, COLORREF colour, int top = All.top,
+                             int bottom = All.bottom)
+    {
+        int count = 0;
+        for (int y = top; y < bottom; ++y) {
+            count += picture.At(x, y) == colour ? 1 : 0;
+        }
+        return count;
+    }
+
+    LM_Params params{};
+    Backdrop backdrop{Desktop, Green};
+};
+
+// The same with the overlay's own opacity taken away, so that ink has its own colour on every display,
+// whether or not that blends windows.
+class OpaqueInkOnScreen : public InkOnScreen {
+    static BOOL WINAPI SetOpaqueAttributes(HWND window, COLORREF key, BYTE, DWORD flags)
+    {
+        constexpr BYTE Opaque = 255;
+        return SetLayeredWindowAttributes(window, key, Opaque, flags);
+    }
+
+    ImportPatch opaque{library.Module(), "USER32.dll", "SetLayeredWindowAttributes",
+                       AsAddress(SetOpaqueAttributes)};
+};
+
+} // namespace zq::LM::test

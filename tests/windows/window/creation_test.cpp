@@ -1,0 +1,269 @@
+// What one creation of the overlay window asks of the system, and in which order it says so.
+#include "windows/window/window_test.h"
+
+#include <string>
+
+namespace zq::LM::test {
+
+namespace {
+
+constexpr UINT ClassStyle = CS_HREDRAW | CS_VREDRAW;
+
+Lines Concat(Lines first, const Lines& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+// The frame of the set-up, whose clear and present look the back-end up.
+Lines EmptyFrame(const std::string& lookup)
+{
+    return {"log: \tMovePenData_ is locked.\n", "log: \tMovePenData_ is unlocked.\n", lookup, lookup};
+}
+
+std::wstring g_refusedClass;
+
+ATOM WINAPI RefuseClass(const WNDCLASSEXW* description)
+{
+    g_refusedClass = description->lpszClassName;
+    return 0;
+}
+
+DWORD WINAPI NoVersion(LPCWSTR, LPDWORD) { return 0; }
+int WINAPI NoStart(ULONG_PTR*, const void*, void*) { return 0; }
+void WINAPI NoEnd(ULONG_PTR) {}
+
+} // namespace
+
+class CreationTest : public WindowTest {
+protected:
+    // The description that the library registers next.
+    void WatchClass()
+    {
+        calls.Answer<"RegisterClassExW">("USER32.dll", RegisterClassExW, [this](const WNDCLASSEXW* offered) {
+            description = *offered;
+            className = offered->lpszClassName;
+            return ::RegisterClassExW(offered);
+        });
+    }
+
+    void ExpectOrderForGDI(std::uint32_t level);
+    void ExpectOrderForDirectComposition(std::uint32_t level);
+
+    WNDCLASSEXW description{};
+    std::wstring className;
+};
+
+TEST_F(CreationTest, RegistersAClassOfWhichEveryFieldIsSet)
+{
+    WatchClass();
+    HWND window = library.Create();
+    EXPECT_EQ(description.cbSize, 80U);
+    EXPECT_EQ(description.style, ClassStyle);
+    EXPECT_EQ(reinterpret_cast<LONG_PTR>(description.lpfnWndProc), GetWindowLongPtrW(window, GWLP_WNDPROC));
+    EXPECT_EQ(description.cbClsExtra, 0);
+    EXPECT_EQ(description.cbWndExtra, 0);
+    EXPECT_EQ(description.hInstance, library.Module());
+    EXPECT_EQ(description.hIcon, nullptr);
+    EXPECT_EQ(description.hCursor, LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(description.hbrBackground, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    EXPECT_EQ(description.lpszMenuName, nullptr);
+    EXPECT_EQ(description.hIconSm, nullptr);
+}
+
+TEST_F(CreationTest, TakesTheSharedArrowAsCursor)
+{
+    calls.Record<"LoadImageW">("USER32.dll", LoadImageW);
+    library.Create();
+    EXPECT_EQ(calls.Take(), Lines{"LoadImageW(null, #32512, 2, 0, 0, 32832)"});
+}
+
+TEST_F(CreationTest, EveryWindowHasAClassOfANewNumber)
+{
+    WatchClass();
+    library.Create();
+    EXPECT_EQ(className, L"Lumora Window Class_00000");
+    DestroyAndForget();
+    library.Create();
+    EXPECT_EQ(className, L"Lumora Window Class_00001");
+    library.Create();
+    EXPECT_EQ(className, L"Lumora Window Class_00002");
+}
+
+TEST_F(CreationTest, AWindowOfAnEarlierClassKeepsItsClass)
+{
+    HWND left = library.Create();
+    Choose(ChooseGDI);
+    InputStroke();
+    wchar_t name[256]{};
+    GetClassNameW(left, name, 256);
+    EXPECT_STREQ(name, L"Lumora Window Class_00000");
+    GetClassNameW(library.GetWindowHandle(), name, 256);
+    EXPECT_STREQ(name, L"Lumora Window Class_00001");
+}
+
+TEST_F(CreationTest, TheClassNumberIsCutToSixteenBits)
+{
+    constexpr unsigned Windows = 65'536;
+    // What each instance costs otherwise.
+    const ImportPatch version(library.Module(), "VERSION.dll", "GetFileVersionInfoSizeW",
+                              AsAddress(NoVersion));
+    const ImportPatch start(library.Module(), "gdiplus.dll", "GdiplusStartup", AsAddress(NoStart));
+    const ImportPatch end(library.Module(), "gdiplus.dll", "GdiplusShutdown", AsAddress(NoEnd));
+    const ImportPatch refused(library.Module(), "USER32.dll", "RegisterClassExW", AsAddress(RefuseClass));
+    for (unsigned i = 0; i < Windows; ++i) {
+        library.Create();
+    }
+    EXPECT_EQ(g_refusedClass, L"Lumora Window Class_65535");
+    library.Create();
+    EXPECT_EQ(g_refusedClass, L"Lumora Window Class_00000");
+}
+
+TEST_F(CreationTest, ADirectCompositionWindowHasNoRedirectionBitmap)
+{
+    calls.Record<"CreateWindowExW">("USER32.dll", CreateWindowExW);
+    library.Create();
+    EXPECT_EQ(calls.Take(), Lines{"CreateWindowExW(0x200088, \"Lumora Window Class_00000\", "
+                                  "\"Lumora DLL Window\", 0x90000000, 200, 60, 640, 480, null, null, "
+                                  "module, null)"});
+}
+
+TEST_F(CreationTest, WindowsOfTheOtherTypesArePlainTopmostToolWindows)
+{
+    const Lines expected = {"CreateWindowExW(136, \"Lumora Window Class_00001\", \"Lumora DLL Window\", "
+                            "0x90000000, 200, 60, 640, 480, null, null, module, null)",
+                            "CreateWindowExW(136, \"Lumora Window Class_00002\", \"Lumora DLL Window\", "
+                            "0x90000000, 200, 60, 640, 480, null, null, module, null)"};
+    SelectGDI();
+    calls.Record<"CreateWindowExW">("USER32.dll", CreateWindowExW);
+    library.Create();
+    Choose(ChooseDirect2D);
+    DestroyAndForget();
+    library.Create();
+    EXPECT_EQ(calls.Take(), expected);
+}
+
+TEST_F(CreationTest, TheWindowCoversTheShellsDesktop)
+{
+    HWND window = library.Create();
+    RECT place{};
+    GetWindowRect(window, &place);
+    EXPECT_TRUE(EqualRect(&place, &Desktop));
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_EQ(GetParent(window), nullptr);
+    wchar_t title[64]{};
+    GetWindowTextW(window, title, 64);
+    EXPECT_STREQ(title, L"Lumora DLL Window");
+}
+
+TEST_F(CreationTest, TheWindowIsLayeredAndLetsTheMouseThrough)
+{
+    constexpr LONG Expected = WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_TRANSPARENT | WS_EX_LAYERED;
+    SelectGDI();
+    HWND window = library.Create();
+    EXPECT_EQ(GetWindowLongW(window, GWL_EXSTYLE) & Expected, Expected);
+    COLORREF key = 0;
+    BYTE opacity = 0;
+    DWORD flags = 0;
+    ASSERT_TRUE(GetLayeredWindowAttributes(window, &key, &opacity, &flags));
+    EXPECT_EQ(key, 0x00FF00FFU);
+    EXPECT_EQ(opacity, 192);
+    EXPECT_EQ(flags, 3U);
+}
+
+void CreationTest::ExpectOrderForGDI(std::uint32_t level)
+{
+    const std::string lookup = "log: Rendering type is DirectGDI.\n";
+    const Lines untilTheFrame = {
+        "log: zq::CallFunc::Create\n",
+        "log: LumoraDLL.dll (0, 1, 0, 0)",
+        "log: zq::LM::GDI::GDI(Constructor)\n",
+        "LoadImageW(null, #32512, 2, 0, 0, 32832)",
+        "RegisterClassExW(\"Lumora Window Class_00001\")",
+        lookup,
+        "CreateWindowExW(136, \"Lumora Window Class_00001\", \"Lumora DLL Window\", 0x90000000, 200, 60, "
+        "640, 480, null, null, module, null)",
+        "log: WM_CREATE ... ",
+        "GetDC(window 1)",
+        "GetDeviceCaps(dc of window 1, 4)",
+        "GetDeviceCaps(dc of window 1, 6)",
+        "SetTimer(window 1, 12345, 50, null)",
+        "log: done\n",
+        "GetWindowLongW(window 1, -20)",
+        "SetWindowLongW(window 1, -20, 0x800A8)",
+        lookup,
+        "log: zq::LM::GDI::InitTransparentWindow",
+        "SetLayeredWindowAttributes(window 1, 0xFF00FF, 192, 3)",
+    };
+    const Lines afterTheFrame = {
+        lookup,
+        "GetDC(window 1)",
+        "CreateSolidBrush(0xFF00FF)",
+        "PatBlt(dc of window 1, 0, 0, 640, 480, 0xF00021)",
+        "DeleteObject(brush 0xFF00FF)",
+        "ReleaseDC(window 1, dc of window 1)",
+        "GlobalAddAtomW(\"Lumora Hotkey\")",
+        "RegisterHotKey(window 1, 49443, 7, 87)",
+        lookup,
+        "GetDC(window 1)",
+        "CreateCompatibleDC(dc of window 1)",
+        "CreateCompatibleBitmap(dc of window 1, 640, 480)",
+        "ReleaseDC(window 1, dc of window 1)",
+    };
+    SelectGDI();
+    library.SetDebugLevel(level);
+    RecordCreation();
+    RecordHotkey(false);
+    calls.RecordLog();
+    library.Create();
+    EXPECT_EQ(calls.Take(), Concat(Concat(untilTheFrame, EmptyFrame(lookup)), afterTheFrame));
+}
+
+void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
+{
+    const std::string lookup = "log: Rendering type is Direct Composition.\n";
+    const Lines untilTheFrame = {
+        "log: zq::CallFunc::Create\n",
+        "log: LumoraDLL.dll (0, 1, 0, 0)",
+        "log: zq::LM::GDI::GDI(Constructor)\n",
+        "LoadImageW(null, #32512, 2, 0, 0, 32832)",
+        "RegisterClassExW(\"Lumora Window Class_00000\")",
+        lookup,
+        "CreateWindowExW(0x200088, \"Lumora Window Class_00000\", \"Lumora DLL Window\", 0x90000000, 200, "
+        "60, 640, 480, null, null, module, null)",
+        "log: WM_CREATE ... ",
+        "GetDC(window 1)",
+        "GetDeviceCaps(dc of window 1, 4)",
+        "GetDeviceCaps(dc of window 1, 6)",
+        "SetTimer(window 1, 12345, 50, null)",
+        "log: done\n",
+        "GetWindowLongW(window 1, -20)",
+        "SetWindowLongW(window 1, -20, 0x2800A8)",
+        lookup,
+    };
+    const Lines afterTheFrame = {
+        lookup,
+        "GlobalAddAtomW(\"Lumora Hotkey\")",
+        "RegisterHotKey(window 1, 49443, 7, 87)",
+        lookup,
+    };
+    library.SetDebugLevel(level);
+    RecordCreation();
+    RecordHotkey(false);
+    calls.RecordLog();
+    library.Create();
+    EXPECT_EQ(calls.Take(), Concat(Concat(untilTheFrame, EmptyFrame(lookup)), afterTheFrame));
+}
+
+TEST_F(CreationTest, TheOrderOfCallsAndLinesForGDIAtLevel3) { ExpectOrderForGDI(3); }
+TEST_F(CreationTest, TheOrderOfCallsAndLinesForGDIAtLevel255) { ExpectOrderForGDI(255); }
+TEST_F(CreationTest, TheOrderOfCallsAndLinesForDirectCompositionAtLevel3)
+{
+    ExpectOrderForDirectComposition(3);
+}
+TEST_F(CreationTest, TheOrderOfCallsAndLinesForDirectCompositionAtLevel255)
+{
+    ExpectOrderForDirectComposition(255);
+}
+
+} // namespace zq::LM::test

@@ -1,0 +1,36 @@
+// The common set-up of the overlay window's tests: the real library with its calls to the system recorded.
+#pragma once
+
+#include "support/overlay_test.h"
+#include "support/system_calls.h"
+
+#include <string>
+#include <vector>
+
+namespace zq::LM::test {
+
+using Lines = std::vector<std::string>;
+
+class WindowTest : public OverlayTest {
+protected:
+    WindowTest() { calls.Name(shell.Window(), "shell"); }
+
+    // GDI is the type of the next instance, and no window of another type is left behind.
+    void SelectGDI();
+
+    // Everything that a creation does with the system, but for what a version resource needs.
+    void RecordCreation();
+    void RecordPainting();
+    void RecordHotkey(bool taken); // nothing of it reaches the system
+    void RecordInvalidations();
+
+    // A segment of full width in the default ink, and where it lies.
+    void InputStroke() const { Input({Sample(100, 100), Sample(150, 100)}); }
+    static constexpr COLORREF Ink = 0x00202020;
+
+    std::size_t Invalidations() const { return calls.Count("InvalidateRect"); }
+
+    SystemCalls calls{library.Module()};
+};
+
+} // namespace zq::LM::test
