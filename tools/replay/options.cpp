@@ -1,0 +1,240 @@
+// Parses the command line of lumora-replay.
+#include "options.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <functional>
+#include <limits>
+#include <string_view>
+
+namespace lumora::replay {
+
+namespace {
+
+constexpr double MinSpeed = 0.001;
+constexpr double MaxSpeed = 1000;
+
+std::optional<std::uint32_t> ParseUnsigned(std::string_view text, int base = 10)
+{
+    std::uint32_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);
+    const bool whole = error == std::errc{} && end == text.data() + text.size();
+    return whole ? std::optional<std::uint32_t>(value) : std::nullopt;
+}
+
+std::optional<double> ParseSpeed(std::string_view text)
+{
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool whole = error == std::errc{} && end == text.data() + text.size();
+    return whole && value >= MinSpeed && value <= MaxSpeed ? std::optional<double>(value) : std::nullopt;
+}
+
+// Red is written first, but lies in the low byte of the library's colours.
+std::optional<std::uint32_t> ParseColour(std::string_view text)
+{
+    constexpr std::size_t Digits = 6;
+    const std::optional<std::uint32_t> rgb = text.size() == Digits ? ParseUnsigned(text, 16) : std::nullopt;
+    if (!rgb) {
+        return std::nullopt;
+    }
+    return (*rgb & 0xFFU) << 16 | (*rgb & 0xFF00U) | *rgb >> 16;
+}
+
+// An option that is followed by a value; `read` says whether it understood the value.
+struct ValueOption {
+    std::string_view name;
+    std::string_view wanted;
+    std::function<bool(std::string_view, Options&)> read;
+};
+
+struct FlagOption {
+    std::string_view name;
+    bool InkChanges::*flag;
+};
+
+constexpr std::array FlagOptions = {
+    FlagOption{"--outline", &InkChanges::outline},    FlagOption{"--no-line", &InkChanges::noLine},
+    FlagOption{"--no-cursor", &InkChanges::noCursor}, FlagOption{"--no-pressure", &InkChanges::noPressure},
+    FlagOption{"--offset", &InkChanges::offset},      FlagOption{"--zebra", &InkChanges::zebra},
+};
+
+constexpr std::string_view WholeNumber = "a whole number from 0 to 4294967295";
+
+ValueOption InkNumber(std::string_view name, std::optional<std::uint32_t> InkChanges::*field)
+{
+    const auto read = [field](std::string_view text, Options& options) {
+        options.ink.*field = ParseUnsigned(text);
+        return (options.ink.*field).has_value();
+    };
+    return {name, WholeNumber, read};
+}
+
+bool ReadBackEnd(std::string_view text, Options& options)
+{
+    if (text == "gdi") {
+        options.backEnd = BackEnd::Gdi;
+    } else if (text == "d2d") {
+        options.backEnd = BackEnd::Direct2D;
+    } else if (text == "composition") {
+        options.backEnd = BackEnd::Composition;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool ReadSpeed(std::string_view text, Options& options)
+{
+    const std::optional<double> speed = ParseSpeed(text);
+    options.speed = speed.value_or(1);
+    return speed.has_value();
+}
+
+bool ReadScreenshot(std::string_view text, Options& options)
+{
+    // Only the first colon separates: the file may be on a drive.
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos || colon + 1 == text.size()) {
+        return false;
+    }
+    const std::optional<std::uint32_t> atMs = ParseUnsigned(text.substr(0, colon));
+    if (atMs) {
+        options.screenshots.push_back({*atMs, std::string(text.substr(colon + 1))});
+    }
+    return atMs.has_value();
+}
+
+bool ReadColour(std::string_view text, Options& options)
+{
+    options.ink.colour = ParseColour(text);
+    return options.ink.colour.has_value();
+}
+
+bool ReadLogLevel(std::string_view text, Options& options)
+{
+    const std::optional<std::uint32_t> level = ParseUnsigned(text);
+    options.logLevel = level.value_or(0);
+    return level.has_value();
+}
+
+bool ReadLibrary(std::string_view text, Options& options)
+{
+    options.library = text;
+    return !text.empty();
+}
+
+const std::vector<ValueOption>& ValueOptions()
+{
+    static const std::vector<ValueOption> Table = {
+        {"--backend", "gdi, d2d or composition", ReadBackEnd},
+        {"--speed", "a number from 0.001 to 1000", ReadSpeed},
+        {"--screenshot", "MILLISECONDS:FILE.png", ReadScreenshot},
+        {"--colour", "six hexadecimal digits, RRGGBB", ReadColour},
+        InkNumber("--brush", &InkChanges::brushSize),
+        InkNumber("--min-brush", &InkChanges::minBrushSize),
+        InkNumber("--max-pressure", &InkChanges::maxPressure),
+        InkNumber("--life", &InkChanges::inkLifeMs),
+        {"--log-level", WholeNumber, ReadLogLevel},
+        {"--dll", "the name of a file", ReadLibrary},
+    };
+    return Table;
+}
+
+std::optional<OptionsError> ReadValue(const ValueOption& option, const std::string* value, Options& options)
+{
+    const std::string needs = std::string(option.name) + " needs " + std::string(option.wanted);
+    if (value == nullptr) {
+        return OptionsError{needs};
+    }
+    if (!option.read(*value, options)) {
+        return OptionsError{needs + ", not \"" + *value + "\""};
+    }
+    return std::nullopt;
+}
+
+std::optional<OptionsError> ReadRecordingName(const std::string& name, Options& options)
+{
+    if (!options.recording.empty()) {
+        return OptionsError{"only one recording can be played, not \"" + options.recording + "\" and \"" +
+                            name + "\""};
+    }
+    if (name.empty()) {
+        return OptionsError{"the recording's name is empty"};
+    }
+    options.recording = name;
+    return std::nullopt;
+}
+
+// Reads the argument at `index`, and its value, if it takes one; leaves `index` at the last argument that was
+// read.
+std::optional<OptionsError> ReadArgument(const std::vector<std::string>& arguments, std::size_t& index,
+                                         Options& options)
+{
+    const std::string& argument = arguments[index];
+    if (!argument.starts_with('-')) {
+        return ReadRecordingName(argument, options);
+    }
+    if (argument == "--help" || argument == "-h") {
+        options.help = true;
+        return std::nullopt;
+    }
+    const auto isNamed = [&argument](const auto& option) { return option.name == argument; };
+    const auto flag = std::find_if(FlagOptions.begin(), FlagOptions.end(), isNamed);
+    if (flag != FlagOptions.end()) {
+        options.ink.*(flag->flag) = true;
+        return std::nullopt;
+    }
+    const auto valued = std::find_if(ValueOptions().begin(), ValueOptions().end(), isNamed);
+    if (valued == ValueOptions().end()) {
+        return OptionsError{"unknown option \"" + argument + "\""};
+    }
+    ++index;
+    return ReadValue(*valued, index < arguments.size() ? &arguments[index] : nullptr, options);
+}
+
+} // namespace
+
+std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>& arguments)
+{
+    Options options;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == "--") {
+            for (++i; i < arguments.size(); ++i) {
+                if (auto error = ReadRecordingName(arguments[i], options)) {
+                    return *error;
+                }
+            }
+        } else if (auto error = ReadArgument(arguments, i, options)) {
+            return *error;
+        } else if (options.help) {
+            return options;
+        }
+    }
+    if (options.recording.empty()) {
+        return OptionsError{"no recording is given"};
+    }
+    const auto earlier = [](const ScreenshotRequest& a, const ScreenshotRequest& b) {
+        return a.atMs < b.atMs;
+    };
+    std::stable_sort(options.screenshots.begin(), options.screenshots.end(), earlier);
+    return options;
+}
+
+void ApplyInk(const InkChanges& changes, LM_Params& params)
+{
+    params.inkColor = changes.colour.value_or(params.inkColor);
+    params.brushSize = changes.brushSize.value_or(params.brushSize);
+    params.minBrushSize = changes.minBrushSize.value_or(params.minBrushSize);
+    params.maxPressure = changes.maxPressure.value_or(params.maxPressure);
+    params.inkDecayTime = changes.inkLifeMs.value_or(params.inkDecayTime);
+    params.outline = changes.outline ? 1 : params.outline;
+    params.line = changes.noLine ? 0 : params.line;
+    params.cursor = changes.noCursor ? 0 : params.cursor;
+    params.usePressure = changes.noPressure ? 0 : params.usePressure;
+    params.useOffset = changes.offset ? 1 : params.useOffset;
+    params.zebraMode = changes.zebra ? 1 : params.zebraMode;
+}
+
+} // namespace lumora::replay

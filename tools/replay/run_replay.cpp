@@ -1,0 +1,65 @@
+// From the command line to the exit status.
+#include "run_replay.h"
+#include "console.h"
+#include "latency.h"
+#include "player.h"
+#include "read_recording.h"
+
+namespace lumora::replay {
+
+namespace {
+
+constexpr int ExitPlayed = 0;
+constexpr int ExitFailed = 1;
+constexpr int ExitWrongInput = 2;
+constexpr int ExitStopped = 130;
+
+int Play(const Options& options, const Recording& recording)
+{
+    const InkLibrary library(options.library.empty() ? LibraryBesideProgram() : PathOf(options.library));
+    const StopSignal stop;
+    PlayResult result;
+    {
+        InkSession session(library, options);
+        const Placement placement(recording, session.DrawableSize());
+        const Timeline timeline(MakePenSamples(recording, placement), options.speed);
+        result = Player(session, stop, timeline, options.screenshots).Play();
+    }
+    for (const TakenScreenshot& taken : result.screenshots) {
+        taken.picture.SaveAsPng(PathOf(taken.file));
+        PrintLine(Channel::Output, "saved " + taken.file);
+    }
+    PrintLine(Channel::Output, Describe(Summarise(result.latenciesMs)));
+    return result.stopped ? ExitStopped : ExitPlayed;
+}
+
+} // namespace
+
+int RunReplay(const std::vector<std::string>& arguments)
+{
+    const auto parsed = ParseOptions(arguments);
+    if (const auto* error = std::get_if<OptionsError>(&parsed)) {
+        PrintLine(Channel::Error, "lumora-replay: " + error->reason + " (see lumora-replay --help)");
+        return ExitWrongInput;
+    }
+    const auto& options = std::get<Options>(parsed);
+    if (options.help) {
+        PrintLine(Channel::Output, HelpText());
+        return ExitPlayed;
+    }
+    const RecordingResult read = ReadRecording(PathOf(options.recording));
+    if (const auto* error = std::get_if<RecordingError>(&read)) {
+        PrintLine(Channel::Error, DescribeError(options.recording, *error));
+        return ExitWrongInput;
+    }
+    // Pixels mean pixels: without this a scaled desktop would be photographed smaller than it is.
+    SetProcessDPIAware();
+    try {
+        return Play(options, std::get<Recording>(read));
+    } catch (const std::exception& failure) {
+        PrintLine(Channel::Error, std::string("lumora-replay: ") + failure.what());
+        return ExitFailed;
+    }
+}
+
+} // namespace lumora::replay
