@@ -5,11 +5,18 @@
 #include "platform/win32/gdiplus_flat.h"
 #include "render/line_rules.h"
 
+#include <algorithm>
+#include <memory>
+
 namespace zq::LM {
 
 namespace {
 
 namespace flat = Gdiplus::DllExports;
+
+// Wider than any screen. Beyond some width GDI+ computes outside its integers, and not every GDI+ survives
+// that.
+constexpr float WidestPen = 100'000.0F;
 
 struct GraphicsDeleter {
     void operator()(Gdiplus::GpGraphics* graphics) const { flat::GdipDeleteGraphics(graphics); }
@@ -50,8 +57,13 @@ void DrawDot(Gdiplus::GpGraphics* graphics, Gdiplus::GpPen* pen, int x, int y)
 // so a step that failed makes the following ones do nothing.
 void DrawGdiPlusLine(HDC dc, const GdiLine& line)
 {
+    const float width = HalfWidthSum(line.width1, line.width2);
+    const bool isVisible = (line.colour & OpaqueAlpha) != 0;
+    if (!isVisible && width > WidestPen) {
+        return; // as a hollow stroke of a narrow brush erases: invisible, and costly over the whole bitmap
+    }
     const auto graphics = MakeGraphics(dc);
-    const auto pen = MakeRoundPen(GdiPlusColour(line.colour), HalfWidthSum(line.width1, line.width2));
+    const auto pen = MakeRoundPen(GdiPlusColour(line.colour), std::min(width, WidestPen));
     if (line.x1 == line.x2 && line.y1 == line.y2) {
         DrawDot(graphics.get(), pen.get(), line.x1, line.y1);
         return;

@@ -2,7 +2,6 @@
 #include "support/library.h"
 
 #include <stdexcept>
-#include <string>
 
 namespace zq::LM::test {
 
@@ -29,6 +28,18 @@ const wchar_t* LibraryPath()
 {
     static const std::wstring path = FindLibrary();
     return path.c_str();
+}
+
+std::string VersionLine(int major, int minor, int build, int revision)
+{
+    return "LumoraDLL.dll (" + std::to_string(major) + ", " + std::to_string(minor) + ", " +
+           std::to_string(build) + ", " + std::to_string(revision) + ")";
+}
+
+std::string VersionLine()
+{
+    return VersionLine(LUMORA_VERSION_MAJOR, LUMORA_VERSION_MINOR, LUMORA_VERSION_BUILD,
+                       LUMORA_VERSION_REVISION);
 }
 
 Library::Library() : module(LoadLibraryW(LibraryPath()))

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace zq::LM::test {
 
 // Loads LumoraDLL.dll from beside the test program; unloads it at the end. Leaves destroying the instance to
@@ -34,5 +36,9 @@ private:
 
 // The full path of a file beside the test program.
 const wchar_t* LibraryPath();
+
+// The log's line about a version, and about the version that the headers name.
+std::string VersionLine(int major, int minor, int build, int revision);
+std::string VersionLine();
 
 } // namespace zq::LM::test

@@ -22,16 +22,10 @@ protected:
         return debugger.Lines();
     }
 
-    static std::string LineOf(int major, int minor, int build, int revision)
-    {
-        return "LumoraDLL.dll (" + std::to_string(major) + ", " + std::to_string(minor) + ", " +
-               std::to_string(build) + ", " + std::to_string(revision) + ")";
-    }
-
     void ExpectVersionZero()
     {
-        EXPECT_EQ(CreationLines(),
-                  (std::vector<LogLine>{{true, "zq::CallFunc::Create\n"}, {false, LineOf(0, 0, 0, 0)}}));
+        EXPECT_EQ(CreationLines(), (std::vector<LogLine>{{true, "zq::CallFunc::Create\n"},
+                                                         {false, test::VersionLine(0, 0, 0, 0)}}));
         EXPECT_TRUE(IsWindow(library.GetWindowHandle()));
     }
 };
@@ -39,9 +33,7 @@ protected:
 TEST_F(Version, IsLoggedNarrowAndWithoutALineEndAfterTheExportsLine)
 {
     EXPECT_EQ(CreationLines(),
-              (std::vector<LogLine>{{true, "zq::CallFunc::Create\n"},
-                                    {false, LineOf(LUMORA_VERSION_MAJOR, LUMORA_VERSION_MINOR,
-                                                   LUMORA_VERSION_BUILD, LUMORA_VERSION_REVISION)}}));
+              (std::vector<LogLine>{{true, "zq::CallFunc::Create\n"}, {false, test::VersionLine()}}));
 }
 
 TEST_F(Version, IsNotLoggedAtLevelZero) { EXPECT_TRUE(CreationLines(0).empty()); }

@@ -79,6 +79,17 @@ TEST_F(GdiLineCallsTest, TheSumOfTheWidthsWraps)
                 Contains("GdipCreatePen1(0xffff0000, 1, 0, out) = pen"));
 }
 
+TEST_F(GdiLineCallsTest, APenIsNoWiderThanAnyScreen)
+{
+    EXPECT_THAT(Draw(0x7FFFFFFF, OpaqueRed, 0x7FFFFFFF, OpaqueRed),
+                Contains("GdipCreatePen1(0xffff0000, 100000, 0, out) = pen"));
+}
+
+TEST_F(GdiLineCallsTest, AnInvisibleLineWiderThanAnyScreenAsksNothing)
+{
+    EXPECT_THAT(Draw(0x7FFFFFFF, 0x00FF00FF, 0x7FFFFFFF, 0x00FF00FF), ElementsAre());
+}
+
 TEST_F(GdiLineTest, IsDrawnInItsColourAndWidth)
 {
     gdi.DrawLine(40, 50, 10, OpaqueRed, 80, 50, 10, OpaqueRed);

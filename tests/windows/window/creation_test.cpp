@@ -176,7 +176,7 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
     const std::string lookup = "log: Rendering type is DirectGDI.\n";
     const Lines untilTheFrame = {
         "log: zq::CallFunc::Create\n",
-        "log: LumoraDLL.dll (0, 1, 0, 0)",
+        "log: " + VersionLine(),
         "log: zq::LM::GDI::GDI(Constructor)\n",
         "LoadImageW(null, #32512, 2, 0, 0, 32832)",
         "RegisterClassExW(\"Lumora Window Class_00001\")",
@@ -224,7 +224,7 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
     const std::string lookup = "log: Rendering type is Direct Composition.\n";
     const Lines untilTheFrame = {
         "log: zq::CallFunc::Create\n",
-        "log: LumoraDLL.dll (0, 1, 0, 0)",
+        "log: " + VersionLine(),
         "log: zq::LM::GDI::GDI(Constructor)\n",
         "LoadImageW(null, #32512, 2, 0, 0, 32832)",
         "RegisterClassExW(\"Lumora Window Class_00000\")",

@@ -29,7 +29,7 @@ TEST_F(MessagesTest, Create)
     RecordHotkey(false);
     debugger.Clear();
     library.Create();
-    EXPECT_EQ(debugger.Texts(), (Lines{"zq::CallFunc::Create\n", "LumoraDLL.dll (0, 1, 0, 0)",
+    EXPECT_EQ(debugger.Texts(), (Lines{"zq::CallFunc::Create\n", VersionLine(),
                                        "zq::LM::GDI::GDI(Constructor)\n", "WM_CREATE ... ", "done\n"}));
 }
 

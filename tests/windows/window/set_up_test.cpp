@@ -187,7 +187,7 @@ TEST_F(SetUpTest, AHotkeyThatIsTakenIsLeftOutInSilence)
     EXPECT_NE(library.Create(), nullptr);
     EXPECT_EQ(calls.Take(), (Lines{"GlobalAddAtomW(\"Lumora Hotkey\")",
                                    "RegisterHotKey(window 1, 49443, 7, 87)", "GlobalDeleteAtom(49443)"}));
-    EXPECT_EQ(debugger.Texts(), (Lines{"zq::CallFunc::Create\n", "LumoraDLL.dll (0, 1, 0, 0)"}));
+    EXPECT_EQ(debugger.Texts(), (Lines{"zq::CallFunc::Create\n", VersionLine()}));
     DestroyAndForget();
     EXPECT_EQ(calls.Take(), Lines{});
 }
