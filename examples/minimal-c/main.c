@@ -12,9 +12,9 @@ static void DropQuitMessage(void)
     PeekMessageW(&message, NULL, WM_QUIT, WM_QUIT, PM_REMOVE);
 }
 
-/* The library starts with its composition back-end, which does not draw yet. The command of the overlay's
- * menu chooses GDI; the choice outlives the instance, so a second instance starts with it and the first
- * leaves no window behind. */
+/* The library starts with its composition back-end, which not every system can show. The command of the
+ * overlay's menu chooses GDI; the choice outlives the instance, so a second instance starts with it and the
+ * first leaves no window behind. */
 static LM_WindowHandle CreateOverlay(void)
 {
     LM_WindowHandle window = LM_Create();

@@ -5,6 +5,7 @@
 #include "core/make_or_null.h"
 #include "ink/truncation.h"
 #include "interface/debug_log.h"
+#include "render/direct_composition.h"
 #include "render/gdi.h"
 #include "render/key_fill.h"
 #include "render/rendering_type.h"
@@ -81,10 +82,10 @@ void Core::BindCallbacks_()
     drawing->SetVectorOutline(g_renderingType == RenderingType::DirectComposition);
 }
 
-// In the order of RenderingType. DirectComposition and Direct2D have no back-end yet.
+// In the order of RenderingType. Direct2D has no back-end yet.
 void Core::CreateBackEnds_()
 {
-    backEnds.push_back(nullptr);
+    backEnds.push_back(MakeOrNull<DirectComposition>());
     backEnds.push_back(nullptr);
     backEnds.push_back(MakeOrNull<GDI>());
 }

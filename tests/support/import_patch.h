@@ -2,6 +2,8 @@
 // unmodified library: its clock, its debugger, its shell window, or a call that fails.
 #pragma once
 
+#include "support/import_entry.h"
+
 #include <windows.h>
 
 namespace zq::LM::test {
@@ -22,8 +24,5 @@ private:
     void** entry;
     void* original = nullptr;
 };
-
-// The address of a function as the patch takes it.
-template <typename Function> void* AsAddress(Function* function) { return reinterpret_cast<void*>(function); }
 
 } // namespace zq::LM::test

@@ -41,6 +41,12 @@ void OverlayTest::InputAndPaint(const std::vector<LM_PenData>& samples) const
     Paint();
 }
 
+HMODULE OverlayTest::ModuleWithDevices()
+{
+    noDevice.reset();
+    return library.Module();
+}
+
 void OverlayTest::TearDown() { DestroyAndForget(); }
 
 } // namespace zq::LM::test

@@ -52,6 +52,9 @@ protected:
     void Choose(WPARAM command) const { SendMessageW(library.GetWindowHandle(), WM_COMMAND, command, 0); }
     bool IsInvalid() const { return GetUpdateRect(library.GetWindowHandle(), nullptr, FALSE) != 0; }
 
+    // The module with the system's own graphics devices, for a stand-in that needs them.
+    HMODULE ModuleWithDevices();
+
     void TearDown() override;
 
     Library library;
@@ -59,6 +62,7 @@ protected:
     DebuggerStandIn debugger{library.Module()};
     ShellStandIn shell{library.Module(), Desktop};
     TimerStandIn timer{library.Module()};
+    std::optional<NoGraphicsDevice> noDevice{std::in_place, library.Module()};
 };
 
 } // namespace zq::LM::test

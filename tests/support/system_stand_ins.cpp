@@ -45,6 +45,8 @@ BOOL WINAPI StandInKillTimer(HWND, UINT_PTR id)
     return TRUE;
 }
 
+HRESULT WINAPI RefuseDevice() { return E_FAIL; }
+
 } // namespace
 
 ClockStandIn::ClockStandIn(HMODULE library, DWORD start)
@@ -111,5 +113,11 @@ TimerStandIn::TimerStandIn(HMODULE library, unsigned failures)
 
 const std::vector<TimerStandIn::Call>& TimerStandIn::Started() const { return g_timers; }
 const std::vector<UINT_PTR>& TimerStandIn::Killed() const { return g_killedTimers; }
+
+// Takes none of its arguments: they stay with the caller.
+NoGraphicsDevice::NoGraphicsDevice(HMODULE library)
+    : patch(library, "d3d11.dll", "D3D11CreateDevice", AsAddress(RefuseDevice))
+{
+}
 
 } // namespace zq::LM::test

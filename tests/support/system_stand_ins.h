@@ -73,4 +73,14 @@ private:
     ImportPatch kill;
 };
 
+// Systems differ in whether they can compose: no device here, so that every overlay starts alike. A
+// composition stand-in put on top of it brings a device of its own.
+class NoGraphicsDevice {
+public:
+    explicit NoGraphicsDevice(HMODULE library);
+
+private:
+    ImportPatch patch;
+};
+
 } // namespace zq::LM::test

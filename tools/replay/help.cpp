@@ -16,8 +16,8 @@ last screenshot is taken; Ctrl+C ends it earlier. At the end it prints the laten
 over to the end of the paint that shows them.
 
 Playing:
-  --backend NAME          gdi, d2d or composition (default gdi; d2d and composition are accepted, but do not draw
-                          yet in this version of the library)
+  --backend NAME          gdi, d2d or composition (default gdi; composition needs a system that can compose,
+                          and d2d does not draw yet in this version of the library)
   --speed N               play N times as fast, 0.001 to 1000 (default 1)
   --screenshot MS:FILE    save the screen as a PNG file, MS milliseconds of real time after the play began; may be
                           given several times and may lie after the last sample. The files are written at the end.

@@ -68,7 +68,8 @@ TEST_F(LibraryFile, ImportsFromWindowsOwnLibrariesOnly)
 {
     const std::set<std::string> windowsLibraries = {
         "ADVAPI32.DLL", // random numbers for the compiler's stack guard
-        "GDI32.DLL",    "GDIPLUS.DLL", "KERNEL32.DLL",
+        "D2D1.DLL",     "D3D11.DLL",   "DCOMP.DLL",   "DWRITE.DLL",
+        "DXGI.DLL",     "GDI32.DLL",   "GDIPLUS.DLL", "KERNEL32.DLL",
         "MSVCRT.DLL", // the C runtime that comes with Windows
         "USER32.DLL",   "VERSION.DLL", "WINMM.DLL",
     };

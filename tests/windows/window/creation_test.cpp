@@ -177,6 +177,7 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
     const Lines untilTheFrame = {
         "log: zq::CallFunc::Create\n",
         "log: " + VersionLine(),
+        "log: DirectCompositionImpl(Constructor)\n",
         "log: zq::LM::GDI::GDI(Constructor)\n",
         "LoadImageW(null, #32512, 2, 0, 0, 32832)",
         "RegisterClassExW(\"Lumora Window Class_00001\")",
@@ -225,6 +226,7 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
     const Lines untilTheFrame = {
         "log: zq::CallFunc::Create\n",
         "log: " + VersionLine(),
+        "log: DirectCompositionImpl(Constructor)\n",
         "log: zq::LM::GDI::GDI(Constructor)\n",
         "LoadImageW(null, #32512, 2, 0, 0, 32832)",
         "RegisterClassExW(\"Lumora Window Class_00000\")",
@@ -240,6 +242,9 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
         "GetWindowLongW(window 1, -20)",
         "SetWindowLongW(window 1, -20, 0x2800A8)",
         lookup,
+        "log: zq::LM::DirectComposition::InitTransparentWindow\n",
+        "log: InitTransparentWindowCore_ is failed.",
+        "log: Exception is thrown!\n",
     };
     const Lines afterTheFrame = {
         lookup,

@@ -29,16 +29,20 @@ TEST_F(MessagesTest, Create)
     RecordHotkey(false);
     debugger.Clear();
     library.Create();
-    EXPECT_EQ(debugger.Texts(), (Lines{"zq::CallFunc::Create\n", VersionLine(),
-                                       "zq::LM::GDI::GDI(Constructor)\n", "WM_CREATE ... ", "done\n"}));
+    EXPECT_EQ(debugger.Texts(),
+              (Lines{"zq::CallFunc::Create\n", VersionLine(), "DirectCompositionImpl(Constructor)\n",
+                     "zq::LM::GDI::GDI(Constructor)\n", "WM_CREATE ... ", "done\n",
+                     "zq::LM::DirectComposition::InitTransparentWindow\n",
+                     "InitTransparentWindowCore_ is failed.", "Exception is thrown!\n"}));
 }
 
 TEST_F(MessagesTest, Destroy)
 {
     CreateQuiet();
     library.Destroy();
-    EXPECT_EQ(debugger.Texts(), (Lines{"zq::CallFunc::Destroy\n", "WM_DESTROY ... ", "done\n",
-                                       "zq::LM::GDI::~GDI(Destructor)\n"}));
+    EXPECT_EQ(debugger.Texts(),
+              (Lines{"zq::CallFunc::Destroy\n", "WM_DESTROY ... ", "done\n",
+                     "~DirectCompositionImpl(Destructor)\n", "zq::LM::GDI::~GDI(Destructor)\n"}));
 }
 
 TEST_F(MessagesTest, DestroyPostsAQuitMessageOfCodeZero)

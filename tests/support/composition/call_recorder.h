@@ -1,0 +1,28 @@
+// What is recorded while a composition stand-in lives.
+#pragma once
+
+#include "support/composition/chosen_answers.h"
+#include "support/composition/object_table.h"
+#include "support/composition/pixel_reader.h"
+#include "support/composition/recorded_call.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace zq::LM::test {
+
+struct CallRecorder {
+    std::vector<RecordedCall> calls;
+    ObjectTable objects;
+    ChosenAnswers answers;
+    std::map<std::string, int> standIns; // objects of the stand-in's own that live, by kind
+    Frame lastFrame;
+    bool show = true;
+};
+
+// Null while there is no stand-in: its functions and objects then work on unrecorded.
+CallRecorder* Recorder();
+void SetRecorder(CallRecorder* recorder);
+
+} // namespace zq::LM::test

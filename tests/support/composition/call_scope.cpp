@@ -1,0 +1,76 @@
+// The recording of one call, from its entry to its return.
+#include "support/composition/call_scope.h"
+
+#include "support/composition/call_recorder.h"
+#include "support/composition/caller.h"
+
+namespace zq::LM::test {
+
+namespace {
+
+thread_local int t_depth = 0; // calls under way on this thread
+
+bool IsOfInterest(const void* caller, const void* object)
+{
+    return t_depth == 0 && Recorder() != nullptr && !IsInSystem(caller) &&
+           (object == nullptr || Recorder()->objects.Knows(object));
+}
+
+} // namespace
+
+CallScope::CallScope(const void* caller, const void* object, const char* method)
+    : recorded(IsOfInterest(caller, object)), object(object)
+{
+    ++t_depth;
+    if (recorded) {
+        call.object = object != nullptr ? Recorder()->objects.Name(object) : "";
+        call.method = method;
+    }
+}
+
+CallScope::~CallScope()
+{
+    --t_depth;
+    if (recorded) {
+        Recorder()->calls.push_back(call);
+    }
+}
+
+std::optional<HRESULT> CallScope::Chosen()
+{
+    return recorded ? Recorder()->answers.Next(call.Step()) : std::nullopt;
+}
+
+HRESULT CallScope::Result(HRESULT result)
+{
+    call.result = static_cast<std::uint32_t>(result);
+    return result;
+}
+
+void CallScope::Made(const void* made, const char* kind)
+{
+    if (recorded) {
+        Recorder()->objects.Given(made, kind);
+        call.made = Recorder()->objects.Name(made);
+    }
+}
+
+ULONG CallScope::Added(ULONG references)
+{
+    if (recorded) {
+        Recorder()->objects.Added(object);
+    }
+    call.result = references;
+    return references;
+}
+
+ULONG CallScope::Released(ULONG references)
+{
+    if (recorded) {
+        Recorder()->objects.Released(object);
+    }
+    call.result = references;
+    return references;
+}
+
+} // namespace zq::LM::test

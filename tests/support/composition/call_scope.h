@@ -1,0 +1,58 @@
+// The recording of one call, from its entry to its return.
+#pragma once
+
+#include "support/composition/describe.h"
+#include "support/composition/recorded_call.h"
+
+#include <windows.h>
+
+#include <optional>
+#include <type_traits>
+
+namespace zq::LM::test {
+
+// Records when the watched module itself calls, on an object that it was given. Calls inside the call are not
+// recorded.
+class CallScope {
+public:
+    // `object` is null for a function, `caller` the address that the call returns to.
+    CallScope(const void* caller, const void* object, const char* method);
+    ~CallScope();
+    CallScope(const CallScope&) = delete;
+    CallScope& operator=(const CallScope&) = delete;
+
+    bool IsRecorded() const { return recorded; }
+
+    // What the call takes. Where it puts its result is left out.
+    template <typename... Values> void Arguments(const Values&... values)
+    {
+        if (recorded) {
+            (AddArgument(values), ...);
+        }
+    }
+
+    // The result chosen by the test; nothing when the call is to be made.
+    std::optional<HRESULT> Chosen();
+
+    HRESULT Result(HRESULT result);
+    void Made(const void* object, const char* kind);
+    ULONG Added(ULONG references);
+    ULONG Released(ULONG references);
+
+private:
+    template <typename Value> void AddArgument(const Value& value)
+    {
+        if constexpr (!std::is_pointer_v<std::remove_pointer_t<Value>>) {
+            if (!call.arguments.empty()) {
+                call.arguments += ", ";
+            }
+            call.arguments += Describe(value);
+        }
+    }
+
+    bool recorded;
+    const void* object;
+    RecordedCall call;
+};
+
+} // namespace zq::LM::test

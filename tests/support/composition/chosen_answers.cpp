@@ -1,0 +1,35 @@
+// The results that a test has chosen for calls yet to come.
+#include "support/composition/chosen_answers.h"
+
+#include <algorithm>
+
+namespace zq::LM::test {
+
+void ChosenAnswers::Choose(const std::string& step, HRESULT result, unsigned nth, unsigned times)
+{
+    choices.push_back({step, result, nth - 1, times});
+}
+
+std::optional<HRESULT> ChosenAnswers::Next(const std::string& step)
+{
+    for (Choice& choice : choices) {
+        if (choice.step != step || choice.times == 0) {
+            continue;
+        }
+        if (choice.before > 0) {
+            --choice.before;
+            return std::nullopt;
+        }
+        --choice.times;
+        choice.used = true;
+        return choice.result;
+    }
+    return std::nullopt;
+}
+
+bool ChosenAnswers::AllUsed() const
+{
+    return std::all_of(choices.begin(), choices.end(), [](const Choice& choice) { return choice.used; });
+}
+
+} // namespace zq::LM::test

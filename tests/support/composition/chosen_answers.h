@@ -1,0 +1,34 @@
+// The results that a test has chosen for calls yet to come.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zq::LM::test {
+
+class ChosenAnswers {
+public:
+    // From the nth call of the step on, counted from now, so many calls are not made and give this result.
+    void Choose(const std::string& step, HRESULT result, unsigned nth, unsigned times);
+
+    // Counts the call.
+    std::optional<HRESULT> Next(const std::string& step);
+
+    // Whether each choice was used at least once.
+    bool AllUsed() const;
+
+private:
+    struct Choice {
+        std::string step;
+        HRESULT result;
+        unsigned before; // calls still made first
+        unsigned times;
+        bool used = false;
+    };
+    std::vector<Choice> choices;
+};
+
+} // namespace zq::LM::test

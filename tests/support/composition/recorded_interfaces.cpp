@@ -1,0 +1,261 @@
+// Which of the system's objects are watched, and which of their methods.
+#include "support/composition/recorded_interfaces.h"
+
+#include "support/composition/method_hook.h"
+#include "support/composition/swap_chain.h"
+#include "support/import_entry.h"
+
+namespace zq::LM::test {
+
+namespace {
+
+ULONG STDMETHODCALLTYPE AddRefHook(IUnknown* self)
+{
+    CallScope scope(LUMORA_CALLER, self, "AddRef");
+    using Original = ULONG(STDMETHODCALLTYPE*)(IUnknown*);
+    return scope.Added(reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&IUnknown::AddRef>()))(self));
+}
+
+ULONG STDMETHODCALLTYPE ReleaseHook(IUnknown* self)
+{
+    CallScope scope(LUMORA_CALLER, self, "Release");
+    using Original = ULONG(STDMETHODCALLTYPE*)(IUnknown*);
+    return scope.Released(
+        reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&IUnknown::Release>()))(self));
+}
+
+// The system lacks this one: its slot leads to the stand-in's swap chain.
+HRESULT STDMETHODCALLTYPE CreateSwapChainHook(IDXGIFactory2* self, IUnknown* device,
+                                              const DXGI_SWAP_CHAIN_DESC1* description, IDXGIOutput* output,
+                                              IDXGISwapChain1** swapChain)
+{
+    CallScope scope(LUMORA_CALLER, self, "CreateSwapChainForComposition");
+    scope.Arguments(device, description, output);
+    *swapChain = nullptr;
+    if (const auto chosen = scope.Chosen()) {
+        return scope.Result(*chosen);
+    }
+    const HRESULT result = SwapChain::Create(device, description, swapChain);
+    if (SUCCEEDED(result)) {
+        scope.Made(*swapChain, SwapChain::Kind);
+    }
+    return scope.Result(result);
+}
+
+// Which of several methods of one name is meant.
+using AsksById = HRESULT (IUnknown::*)(const GUID&, void**);
+using TakesStroke = HRESULT (ID2D1Factory::*)(const D2D1_STROKE_STYLE_PROPERTIES*, const FLOAT*, UINT,
+                                              ID2D1StrokeStyle**);
+using GivesPath = HRESULT (ID2D1Factory::*)(ID2D1PathGeometry**);
+using GivesPath1 = HRESULT (ID2D1Factory1::*)(ID2D1PathGeometry1**);
+using GivesDevice1 = HRESULT (ID2D1Factory2::*)(IDXGIDevice*, ID2D1Device1**);
+using TakesBrushColour = HRESULT (ID2D1RenderTarget::*)(const D2D1_COLOR_F*, const D2D1_BRUSH_PROPERTIES*,
+                                                        ID2D1SolidColorBrush**);
+using TakesSurface = HRESULT (ID2D1DeviceContext::*)(IDXGISurface*, const D2D1_BITMAP_PROPERTIES1*,
+                                                     ID2D1Bitmap1**);
+using TakesColour = void (ID2D1RenderTarget::*)(const D2D1_COLOR_F*);
+using TakesMatrix = void (ID2D1RenderTarget::*)(const D2D1_MATRIX_3X2_F*);
+using TakesRectangle = void (ID2D1RenderTarget::*)(const D2D1_RECT_F*, ID2D1Brush*);
+using TakesText = void (ID2D1RenderTarget::*)(const WCHAR*, UINT, IDWriteTextFormat*, const D2D1_RECT_F*,
+                                              ID2D1Brush*, D2D1_DRAW_TEXT_OPTIONS, DWRITE_MEASURING_MODE);
+
+void WatchReferences(IUnknown* object)
+{
+    MethodHook<"QueryInterface", static_cast<AsksById>(&IUnknown::QueryInterface)>::Patch(object);
+    PatchSlot(object, SlotOf<&IUnknown::AddRef>(), AsAddress(AddRefHook));
+    PatchSlot(object, SlotOf<&IUnknown::Release>(), AsAddress(ReleaseHook));
+}
+
+template <MethodName Name, auto Method>
+using DrawingHook = MethodHook<Name, Method, WithoutTarget::IsLeftOut>;
+
+HRESULT STDMETHODCALLTYPE EndDrawHook(ID2D1RenderTarget* self, D2D1_TAG* tag1, D2D1_TAG* tag2)
+{
+    using Original = HRESULT(STDMETHODCALLTYPE*)(ID2D1RenderTarget*, D2D1_TAG*, D2D1_TAG*);
+    CallScope scope(LUMORA_CALLER, self, "EndDraw");
+    const auto original =
+        reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&ID2D1RenderTarget::EndDraw>()));
+    scope.Arguments(tag1, tag2);
+    if (const auto chosen = scope.Chosen()) {
+        return scope.Result(*chosen);
+    }
+    const HRESULT result = original(self, tag1, tag2);
+    return scope.Result(LacksTarget(self) ? D2DERR_WRONG_STATE : result);
+}
+
+void STDMETHODCALLTYPE SetTargetHook(ID2D1DeviceContext* self, ID2D1Image* target)
+{
+    using Original = void(STDMETHODCALLTYPE*)(ID2D1DeviceContext*, ID2D1Image*);
+    CallScope scope(LUMORA_CALLER, self, "SetTarget");
+    scope.Arguments(target);
+    reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&ID2D1DeviceContext::SetTarget>()))(self, target);
+    NoteTarget(self, target);
+}
+
+void WatchDrawing(ID2D1RenderTarget* object)
+{
+    using Target = ID2D1RenderTarget;
+    WatchReferences(object);
+    MethodHook<"CreateSolidColorBrush", static_cast<TakesBrushColour>(&Target::CreateSolidColorBrush)>::Patch(
+        object);
+    DrawingHook<"DrawLine", &Target::DrawLine>::Patch(object);
+    DrawingHook<"FillRectangle", static_cast<TakesRectangle>(&Target::FillRectangle)>::Patch(object);
+    DrawingHook<"DrawGeometry", &Target::DrawGeometry>::Patch(object);
+    DrawingHook<"FillGeometry", &Target::FillGeometry>::Patch(object);
+    DrawingHook<"DrawText", static_cast<TakesText>(&Target::DrawText)>::Patch(object);
+    DrawingHook<"Clear", static_cast<TakesColour>(&Target::Clear)>::Patch(object);
+    MethodHook<"SetTransform", static_cast<TakesMatrix>(&Target::SetTransform)>::Patch(object);
+    MethodHook<"SetAntialiasMode", &Target::SetAntialiasMode>::Patch(object);
+    MethodHook<"SetTextAntialiasMode", &Target::SetTextAntialiasMode>::Patch(object);
+    MethodHook<"BeginDraw", &Target::BeginDraw>::Patch(object);
+    MethodHook<"Flush", &Target::Flush>::Patch(object);
+    PatchSlot(object, SlotOf<&Target::EndDraw>(), AsAddress(EndDrawHook));
+}
+
+} // namespace
+
+const char* Watch(ID3D11Device* object)
+{
+    WatchReferences(object);
+    return "D3DDevice";
+}
+
+const char* Watch(ID3D11DeviceContext* object)
+{
+    WatchReferences(object);
+    return "D3DContext";
+}
+
+const char* Watch(IDXGIDevice* object)
+{
+    WatchReferences(object);
+    return "DxgiDevice";
+}
+
+const char* Watch(IDXGIFactory2* object)
+{
+    WatchReferences(object);
+    PatchSlot(object, SlotOf<&IDXGIFactory2::CreateSwapChainForComposition>(),
+              AsAddress(CreateSwapChainHook));
+    return "DxgiFactory";
+}
+
+const char* Watch(ID2D1Factory* object)
+{
+    WatchReferences(object);
+    MethodHook<"CreateStrokeStyle", static_cast<TakesStroke>(&ID2D1Factory::CreateStrokeStyle)>::Patch(
+        object);
+    MethodHook<"CreatePathGeometry", static_cast<GivesPath>(&ID2D1Factory::CreatePathGeometry)>::Patch(
+        object);
+    MethodHook<"CreateDCRenderTarget", &ID2D1Factory::CreateDCRenderTarget>::Patch(object);
+    return "D2DFactory";
+}
+
+const char* Watch(ID2D1Factory2* object)
+{
+    MethodHook<"CreatePathGeometry", static_cast<GivesPath1>(&ID2D1Factory1::CreatePathGeometry)>::Patch(
+        object);
+    MethodHook<"CreateDevice", static_cast<GivesDevice1>(&ID2D1Factory2::CreateDevice)>::Patch(object);
+    return Watch(static_cast<ID2D1Factory*>(object));
+}
+
+const char* Watch(ID2D1Device* object)
+{
+    using GivesContext = HRESULT (ID2D1Device::*)(D2D1_DEVICE_CONTEXT_OPTIONS, ID2D1DeviceContext**);
+    WatchReferences(object);
+    MethodHook<"CreateDeviceContext", static_cast<GivesContext>(&ID2D1Device::CreateDeviceContext)>::Patch(
+        object);
+    return "D2DDevice";
+}
+
+const char* Watch(ID2D1DeviceContext* object)
+{
+    WatchDrawing(object);
+    MethodHook<"CreateBitmapFromDxgiSurface",
+               static_cast<TakesSurface>(&ID2D1DeviceContext::CreateBitmapFromDxgiSurface)>::Patch(object);
+    PatchSlot(object, SlotOf<&ID2D1DeviceContext::SetTarget>(), AsAddress(SetTargetHook));
+    NoteTarget(object, nullptr);
+    return "DeviceContext";
+}
+
+const char* Watch(ID2D1DCRenderTarget* object)
+{
+    WatchDrawing(object);
+    MethodHook<"BindDC", &ID2D1DCRenderTarget::BindDC>::Patch(object);
+    return "DCRenderTarget";
+}
+
+const char* Watch(ID2D1Bitmap1* object)
+{
+    WatchReferences(object);
+    return "Bitmap";
+}
+
+const char* Watch(ID2D1SolidColorBrush* object)
+{
+    WatchReferences(object);
+    return "Brush";
+}
+
+const char* Watch(ID2D1StrokeStyle* object)
+{
+    WatchReferences(object);
+    return "StrokeStyle";
+}
+
+const char* Watch(ID2D1PathGeometry* object)
+{
+    WatchReferences(object);
+    MethodHook<"Open", &ID2D1PathGeometry::Open>::Patch(object);
+    return "Path";
+}
+
+const char* Watch(ID2D1GeometrySink* object)
+{
+    using Sink = ID2D1SimplifiedGeometrySink;
+    WatchReferences(object);
+    MethodHook<"SetFillMode", &Sink::SetFillMode>::Patch(object);
+    MethodHook<"SetSegmentFlags", &Sink::SetSegmentFlags>::Patch(object);
+    MethodHook<"BeginFigure", &Sink::BeginFigure>::Patch(object);
+    MethodHook<"AddLine", &ID2D1GeometrySink::AddLine>::Patch(object);
+    MethodHook<"EndFigure", &Sink::EndFigure>::Patch(object);
+    MethodHook<"Close", &Sink::Close>::Patch(object);
+    return "Sink";
+}
+
+const char* Watch(IDWriteFactory* object)
+{
+    WatchReferences(object);
+    MethodHook<"CreateTextFormat", &IDWriteFactory::CreateTextFormat>::Patch(object);
+    return "WriteFactory";
+}
+
+const char* Watch(IDWriteTextFormat* object)
+{
+    WatchReferences(object);
+    MethodHook<"GetFontSize", &IDWriteTextFormat::GetFontSize>::Patch(object);
+    return "TextFormat";
+}
+
+const char* WatchAs(const GUID& id, void* object)
+{
+    if (id == __uuidof(IDXGIDevice)) {
+        return Watch(static_cast<IDXGIDevice*>(object));
+    }
+    if (id == __uuidof(IDXGIFactory2)) {
+        return Watch(static_cast<IDXGIFactory2*>(object));
+    }
+    if (id == __uuidof(ID2D1Factory)) {
+        return Watch(static_cast<ID2D1Factory*>(object));
+    }
+    if (id == __uuidof(ID2D1Factory2)) {
+        return Watch(static_cast<ID2D1Factory2*>(object));
+    }
+    if (id == __uuidof(IDWriteFactory)) {
+        return Watch(static_cast<IDWriteFactory*>(object));
+    }
+    WatchReferences(static_cast<IUnknown*>(object));
+    return "Unknown";
+}
+
+} // namespace zq::LM::test

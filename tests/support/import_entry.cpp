@@ -1,0 +1,53 @@
+// The entries of a loaded module's import table.
+#include "support/import_entry.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace zq::LM::test {
+
+namespace {
+
+template <typename Type> Type* At(HMODULE module, std::uintptr_t offset)
+{
+    return reinterpret_cast<Type*>(reinterpret_cast<std::uintptr_t>(module) + offset);
+}
+
+const IMAGE_IMPORT_DESCRIPTOR* FirstImportedDll(HMODULE module)
+{
+    const auto* dos = At<const IMAGE_DOS_HEADER>(module, 0);
+    const auto* headers = At<const IMAGE_NT_HEADERS>(module, static_cast<std::uintptr_t>(dos->e_lfanew));
+    const auto& directory = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    return At<const IMAGE_IMPORT_DESCRIPTOR>(module, directory.VirtualAddress);
+}
+
+} // namespace
+
+void** FindImportEntry(HMODULE module, const char* dll, const char* function)
+{
+    for (const auto* imported = FirstImportedDll(module); imported->Name != 0; ++imported) {
+        if (lstrcmpiA(At<const char>(module, imported->Name), dll) != 0) {
+            continue;
+        }
+        const auto* name = At<const IMAGE_THUNK_DATA>(module, imported->OriginalFirstThunk);
+        auto* entry = At<void*>(module, imported->FirstThunk);
+        for (; name->u1.AddressOfData != 0; ++name, ++entry) {
+            if (!IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal) &&
+                std::strcmp(At<const IMAGE_IMPORT_BY_NAME>(module, name->u1.AddressOfData)->Name, function) ==
+                    0) {
+                return entry;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void WriteEntry(void** entry, void* address)
+{
+    DWORD protection = 0;
+    VirtualProtect(entry, sizeof(*entry), PAGE_READWRITE, &protection);
+    *entry = address;
+    VirtualProtect(entry, sizeof(*entry), protection, &protection);
+}
+
+} // namespace zq::LM::test
