@@ -34,7 +34,7 @@ private:
     HMODULE module;
 };
 
-// The full path of a file beside the test program.
+// The full path of LumoraDLL.dll beside the test program.
 const wchar_t* LibraryPath();
 
 // The log's line about a version, and about the version that the headers name.
