@@ -19,6 +19,7 @@ struct CallRecorder {
     std::map<std::string, int> standIns; // objects of the stand-in's own that live, by kind
     Frame lastFrame;
     bool show = true;
+    bool keepCalls = true;
 };
 
 // Null while there is no stand-in: its functions and objects then work on unrecorded.

@@ -18,20 +18,29 @@ bool IsOfInterest(const void* caller, const void* object)
 
 } // namespace
 
+std::int64_t CallScope::Now()
+{
+    LARGE_INTEGER ticks = {};
+    QueryPerformanceCounter(&ticks);
+    return ticks.QuadPart;
+}
+
 CallScope::CallScope(const void* caller, const void* object, const char* method)
-    : recorded(IsOfInterest(caller, object)), object(object)
+    : recorded(IsOfInterest(caller, object)), kept(recorded && Recorder()->keepCalls), object(object)
 {
     ++t_depth;
     if (recorded) {
         call.object = object != nullptr ? Recorder()->objects.Name(object) : "";
         call.method = method;
+        call.enteredAt = Now();
     }
 }
 
 CallScope::~CallScope()
 {
     --t_depth;
-    if (recorded) {
+    if (kept) {
+        call.leftAt = Now();
         Recorder()->calls.push_back(call);
     }
 }

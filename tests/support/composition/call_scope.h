@@ -26,8 +26,9 @@ public:
     // What the call takes. Where it puts its result is left out.
     template <typename... Values> void Arguments(const Values&... values)
     {
-        if (recorded) {
+        if (kept) {
             (AddArgument(values), ...);
+            call.enteredAt = Now(); // the writing of the arguments is not the call's
         }
     }
 
@@ -40,6 +41,8 @@ public:
     ULONG Released(ULONG references);
 
 private:
+    static std::int64_t Now();
+
     template <typename Value> void AddArgument(const Value& value)
     {
         if constexpr (!std::is_pointer_v<std::remove_pointer_t<Value>>) {
@@ -51,6 +54,7 @@ private:
     }
 
     bool recorded;
+    bool kept; // of what is recorded: references are counted whether or not calls are kept
     const void* object;
     RecordedCall call;
 };

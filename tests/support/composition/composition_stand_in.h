@@ -31,6 +31,9 @@ public:
     std::vector<std::string> TakeOf(const std::string& step); // these calls alone; the rest is dropped
     std::size_t Count(const std::string& step) const;
 
+    // Whether calls are kept; on at first. A long play would fill the memory with them.
+    void KeepCalls(bool keep) { recorder.keepCalls = keep; }
+
     // From the nth call of the step on, counted from now, so many calls are not made and give this result.
     void Answer(const std::string& step, HRESULT result, unsigned nth = 1, unsigned times = 1);
     bool WereAnswersUsed() const { return recorder.answers.AllUsed(); }

@@ -1,0 +1,130 @@
+// What a frame of the DirectComposition back-end costs, through the delivered library on the stand-in for the
+// system's composition engine, by how many segments live.
+#include "ink_library.h"
+
+#include "support/composition/composition_stand_in.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+using zq::LM::test::CompositionStandIn;
+using zq::LM::test::RecordedCall;
+
+constexpr int Frames = 31;
+
+// In milliseconds.
+struct FrameCost {
+    double drawing = 0; // Direct2D's own calls
+    double present = 0; // the stand-in's, which copies and reads a whole frame
+    double rest = 0;    // engine and library, and the recording of the calls
+};
+
+double Milliseconds(LONGLONG ticks)
+{
+    LARGE_INTEGER frequency = {};
+    QueryPerformanceFrequency(&frequency);
+    return static_cast<double>(ticks) * 1000 / static_cast<double>(frequency.QuadPart);
+}
+
+double Median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+template <typename Field> double MedianOf(const std::vector<FrameCost>& frames, Field field)
+{
+    std::vector<double> values;
+    std::transform(frames.begin(), frames.end(), std::back_inserter(values),
+                   [field](const FrameCost& frame) { return frame.*field; });
+    return Median(std::move(values));
+}
+
+double PaintOnce(HWND window)
+{
+    LARGE_INTEGER begin = {};
+    LARGE_INTEGER end = {};
+    InvalidateRect(window, nullptr, FALSE);
+    QueryPerformanceCounter(&begin);
+    UpdateWindow(window);
+    QueryPerformanceCounter(&end);
+    return Milliseconds(end.QuadPart - begin.QuadPart);
+}
+
+FrameCost SplitFrame(HWND window, CompositionStandIn& composition)
+{
+    composition.Take();
+    FrameCost cost;
+    cost.rest = PaintOnce(window);
+    for (const RecordedCall& call : composition.Calls()) {
+        const double took = Milliseconds(call.leftAt - call.enteredAt);
+        (call.method == "Present" ? cost.present : cost.drawing) += took;
+        cost.rest -= took;
+    }
+    return cost;
+}
+
+// A zigzag of that many segments, all of them alive for longer than the measurement takes.
+HWND CreateWithSegments(const lumora::replay::InkLibrary& library, int segments)
+{
+    const HWND window = library.create();
+    LM_Params params = {};
+    library.getCopiedParams(&params);
+    params.inkDecayTime = 3'600'000;
+    library.setParams(&params);
+    std::vector<LM_PenData> samples;
+    for (int i = 0; i <= segments; ++i) {
+        LM_PenData sample = {};
+        sample.time = 1;
+        sample.x = 20 + i % 40 * 5;
+        sample.y = 20 + i % 2 * 10 + i / 40 * 8;
+        sample.pressure = 20'000;
+        samples.push_back(sample);
+    }
+    library.inputPenDataArray(samples.data(), samples.size());
+    return window;
+}
+
+void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& composition, int segments)
+{
+    const HWND window = CreateWithSegments(library, segments);
+    PaintOnce(window); // the first one moves the samples
+    std::vector<double> whole;
+    std::vector<FrameCost> parts;
+    for (int i = 0; i < Frames; ++i) {
+        composition.KeepCalls(false);
+        whole.push_back(PaintOnce(window));
+        composition.KeepCalls(true);
+        parts.push_back(SplitFrame(window, composition));
+    }
+    std::printf("| %d | %.2f | %.2f | %.2f | %.2f |\n", segments, Median(whole),
+                MedianOf(parts, &FrameCost::drawing), MedianOf(parts, &FrameCost::present),
+                MedianOf(parts, &FrameCost::rest));
+    library.destroy();
+    MSG message = {};
+    PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+}
+
+} // namespace
+
+int main()
+{
+    try {
+        const lumora::replay::InkLibrary library(lumora::replay::LibraryBesideProgram());
+        CompositionStandIn composition(library.Module());
+        composition.Show(false);
+        std::puts("| segments | frame, ms | Direct2D, ms | present, ms | the rest, recorded, ms "
+                  "|\n|---|---|---|---|---|");
+        for (const int segments : {1, 30, 300, 1000}) {
+            Measure(library, composition, segments);
+        }
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "composition_frame: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}
