@@ -40,15 +40,16 @@ LM_Params ParamsWith(const std::vector<std::string>& arguments)
     return params;
 }
 
-TEST(Options, DefaultsAreGdiAtRecordedSpeedWithoutLog)
+TEST(Options, DefaultsAreTheLibrarysBackEndAtRecordedSpeedWithoutLog)
 {
     const Options options = Parse({"a.svc"});
     EXPECT_EQ(options.recording, "a.svc");
-    EXPECT_EQ(options.backEnd, BackEnd::Gdi);
+    EXPECT_EQ(options.backEnd, BackEnd::Composition);
     EXPECT_EQ(options.speed, 1.0);
     EXPECT_EQ(options.logLevel, 0U);
     EXPECT_TRUE(options.library.empty());
     EXPECT_TRUE(options.screenshots.empty());
+    EXPECT_TRUE(options.switches.empty());
     EXPECT_FALSE(options.help);
 }
 
@@ -95,6 +96,22 @@ TEST(Options, ScreenshotsComeInOrderOfTime)
     const Options options = Parse({"a", "--screenshot", "9:x.png", "--screenshot", "3:y.png"});
     ASSERT_EQ(options.screenshots.size(), 2U);
     EXPECT_EQ(options.screenshots[0].file, "y.png");
+}
+
+TEST(Options, SwitchIsMomentAndBackEnd)
+{
+    const Options options = Parse({"a", "--switch", "250:d2d"});
+    ASSERT_EQ(options.switches.size(), 1U);
+    EXPECT_EQ(options.switches[0].atMs, 250U);
+    EXPECT_EQ(options.switches[0].backEnd, BackEnd::Direct2D);
+}
+
+TEST(Options, SwitchesComeInOrderOfTime)
+{
+    const Options options = Parse({"a", "--switch", "9:gdi", "--switch", "3:composition"});
+    ASSERT_EQ(options.switches.size(), 2U);
+    EXPECT_EQ(options.switches[0].backEnd, BackEnd::Composition);
+    EXPECT_EQ(options.switches[1].backEnd, BackEnd::Gdi);
 }
 
 TEST(Options, LogLevelAndLibraryAreTaken)
@@ -196,6 +213,13 @@ INSTANTIATE_TEST_SUITE_P(Screenshot, BadValue,
                                          std::vector<std::string>{"--screenshot", "-5:a.png"},
                                          std::vector<std::string>{"--screenshot", "x:a.png"}));
 
+INSTANTIATE_TEST_SUITE_P(Switch, BadValue,
+                         testing::Values(std::vector<std::string>{"--switch", "gdi"},
+                                         std::vector<std::string>{"--switch", "5:"},
+                                         std::vector<std::string>{"--switch", ":gdi"},
+                                         std::vector<std::string>{"--switch", "-5:gdi"},
+                                         std::vector<std::string>{"--switch", "5:GL"}));
+
 INSTANTIATE_TEST_SUITE_P(Numbers, BadValue,
                          testing::Values(std::vector<std::string>{"--brush", "-1"},
                                          std::vector<std::string>{"--min-brush", "1.5"},
@@ -211,9 +235,9 @@ TEST(Help, NamesEveryOptionAndStatus)
 {
     const std::string help = HelpText();
     for (const char* text :
-         {"--backend", "--speed", "--screenshot", "--colour", "--brush", "--min-brush", "--max-pressure",
-          "--life", "--outline", "--no-line", "--no-cursor", "--no-pressure", "--offset", "--zebra",
-          "--log-level", "--dll", "--help", "Exit status"}) {
+         {"--backend", "--switch", "--speed", "--screenshot", "--colour", "--brush", "--min-brush",
+          "--max-pressure", "--life", "--outline", "--no-line", "--no-cursor", "--no-pressure", "--offset",
+          "--zebra", "--log-level", "--dll", "--help", "Exit status"}) {
         EXPECT_THAT(help, HasSubstr(text));
     }
 }

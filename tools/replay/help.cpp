@@ -16,8 +16,10 @@ last screenshot is taken; Ctrl+C ends it earlier. At the end it prints the laten
 over to the end of the paint that shows them.
 
 Playing:
-  --backend NAME          gdi, d2d or composition (default gdi; composition needs a system that can compose,
-                          and d2d does not draw yet in this version of the library)
+  --backend NAME          composition, d2d or gdi (default composition, which shows nothing without the system's
+                          composition engine: Wine has none)
+  --switch MS:NAME        change the back-end, MS milliseconds of real time after the play began; may be given several
+                          times. The next samples rebuild the overlay and are not drawn themselves.
   --speed N               play N times as fast, 0.001 to 1000 (default 1)
   --screenshot MS:FILE    save the screen as a PNG file, MS milliseconds of real time after the play began; may be
                           given several times and may lie after the last sample. The files are written at the end.

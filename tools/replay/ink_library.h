@@ -21,6 +21,8 @@ public:
     // Throws ReplayError when the file, one of its functions or the layout of its records is not as expected.
     explicit InkLibrary(const std::filesystem::path& file);
 
+    HMODULE Module() const { return module.handle; }
+
     decltype(&LM_Create) create = nullptr;
     decltype(&LM_Destroy) destroy = nullptr;
     decltype(&LM_GetCopiedParams) getCopiedParams = nullptr;

@@ -8,8 +8,21 @@ namespace lumora::replay {
 namespace {
 
 // The commands of the overlay's menu that choose a back-end.
-constexpr WPARAM CommandDirect2D = 40021;
-constexpr WPARAM CommandGdi = 40022;
+WPARAM CommandOf(BackEnd backEnd)
+{
+    constexpr WPARAM CommandComposition = 40020;
+    constexpr WPARAM CommandDirect2D = 40021;
+    constexpr WPARAM CommandGdi = 40022;
+    switch (backEnd) {
+    case BackEnd::Gdi:
+        return CommandGdi;
+    case BackEnd::Direct2D:
+        return CommandDirect2D;
+    case BackEnd::Composition:
+        break;
+    }
+    return CommandComposition;
+}
 
 } // namespace
 
@@ -21,7 +34,7 @@ InkSession::InkSession(const InkLibrary& inkLibrary, const Options& options) : l
     if (options.backEnd != BackEnd::Composition) {
         // The back-end outlives the instance, so a second instance starts with it and no window of the first
         // is left.
-        SendMessageW(window, WM_COMMAND, options.backEnd == BackEnd::Gdi ? CommandGdi : CommandDirect2D, 0);
+        Choose(options.backEnd);
         Destroy_();
         Create_();
     }
@@ -51,6 +64,11 @@ std::uint32_t InkSession::InkLifeMs() const
 void InkSession::Input(std::span<const LM_PenData> samples) const
 {
     library.inputPenDataArray(samples.data(), samples.size());
+}
+
+void InkSession::Choose(BackEnd backEnd) const
+{
+    SendMessageW(library.getWindowHandle(), WM_COMMAND, CommandOf(backEnd), 0);
 }
 
 void InkSession::Create_()

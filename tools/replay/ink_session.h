@@ -26,6 +26,9 @@ public:
 
     void Input(std::span<const LM_PenData> samples) const;
 
+    // Takes effect with the next input, which makes a new window and draws nothing.
+    void Choose(BackEnd backEnd) const;
+
     // Painted by another window than before: the library made a new one after its back-end was changed.
     void RefreshWindow() { window = library.getWindowHandle(); }
 

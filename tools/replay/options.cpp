@@ -71,18 +71,22 @@ ValueOption InkNumber(std::string_view name, std::optional<std::uint32_t> InkCha
     return {name, WholeNumber, read};
 }
 
-bool ReadBackEnd(std::string_view text, Options& options)
+std::optional<BackEnd> ParseBackEnd(std::string_view text)
 {
     if (text == "gdi") {
-        options.backEnd = BackEnd::Gdi;
-    } else if (text == "d2d") {
-        options.backEnd = BackEnd::Direct2D;
-    } else if (text == "composition") {
-        options.backEnd = BackEnd::Composition;
-    } else {
-        return false;
+        return BackEnd::Gdi;
     }
-    return true;
+    if (text == "d2d") {
+        return BackEnd::Direct2D;
+    }
+    return text == "composition" ? std::optional<BackEnd>(BackEnd::Composition) : std::nullopt;
+}
+
+bool ReadBackEnd(std::string_view text, Options& options)
+{
+    const std::optional<BackEnd> backEnd = ParseBackEnd(text);
+    options.backEnd = backEnd.value_or(BackEnd::Composition);
+    return backEnd.has_value();
 }
 
 bool ReadSpeed(std::string_view text, Options& options)
@@ -92,18 +96,40 @@ bool ReadSpeed(std::string_view text, Options& options)
     return speed.has_value();
 }
 
-bool ReadScreenshot(std::string_view text, Options& options)
+// "MILLISECONDS:what is due then".
+struct Moment {
+    std::uint32_t atMs = 0;
+    std::string_view due;
+};
+
+std::optional<Moment> ParseMoment(std::string_view text)
 {
-    // Only the first colon separates: the file may be on a drive.
+    // Only the first colon separates: what is due may be a file on a drive.
     const std::size_t colon = text.find(':');
     if (colon == std::string_view::npos || colon + 1 == text.size()) {
-        return false;
+        return std::nullopt;
     }
     const std::optional<std::uint32_t> atMs = ParseUnsigned(text.substr(0, colon));
-    if (atMs) {
-        options.screenshots.push_back({*atMs, std::string(text.substr(colon + 1))});
+    return atMs ? std::optional<Moment>({*atMs, text.substr(colon + 1)}) : std::nullopt;
+}
+
+bool ReadScreenshot(std::string_view text, Options& options)
+{
+    const std::optional<Moment> moment = ParseMoment(text);
+    if (moment) {
+        options.screenshots.push_back({moment->atMs, std::string(moment->due)});
     }
-    return atMs.has_value();
+    return moment.has_value();
+}
+
+bool ReadSwitch(std::string_view text, Options& options)
+{
+    const std::optional<Moment> moment = ParseMoment(text);
+    const std::optional<BackEnd> backEnd = moment ? ParseBackEnd(moment->due) : std::nullopt;
+    if (backEnd) {
+        options.switches.push_back({moment->atMs, *backEnd});
+    }
+    return backEnd.has_value();
 }
 
 bool ReadColour(std::string_view text, Options& options)
@@ -129,6 +155,7 @@ const std::vector<ValueOption>& ValueOptions()
 {
     static const std::vector<ValueOption> Table = {
         {"--backend", "gdi, d2d or composition", ReadBackEnd},
+        {"--switch", "MILLISECONDS:gdi, d2d or composition", ReadSwitch},
         {"--speed", "a number from 0.001 to 1000", ReadSpeed},
         {"--screenshot", "MILLISECONDS:FILE.png", ReadScreenshot},
         {"--colour", "six hexadecimal digits, RRGGBB", ReadColour},
@@ -215,10 +242,9 @@ std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>&
     if (options.recording.empty()) {
         return OptionsError{"no recording is given"};
     }
-    const auto earlier = [](const ScreenshotRequest& a, const ScreenshotRequest& b) {
-        return a.atMs < b.atMs;
-    };
+    const auto earlier = [](const auto& a, const auto& b) { return a.atMs < b.atMs; };
     std::stable_sort(options.screenshots.begin(), options.screenshots.end(), earlier);
+    std::stable_sort(options.switches.begin(), options.switches.end(), earlier);
     return options;
 }
 

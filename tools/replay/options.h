@@ -13,6 +13,12 @@ namespace lumora::replay {
 
 enum class BackEnd { Composition, Direct2D, Gdi };
 
+// A change of the back-end while ink is on the screen.
+struct BackEndSwitch {
+    std::uint32_t atMs = 0; // since the play began
+    BackEnd backEnd = BackEnd::Composition;
+};
+
 struct ScreenshotRequest {
     std::uint32_t atMs = 0; // since the play began
     std::string file;
@@ -37,12 +43,13 @@ struct InkChanges {
 struct Options {
     bool help = false;
     std::string recording;
-    std::string library; // empty: LumoraDLL.dll beside the program
-    BackEnd backEnd = BackEnd::Gdi;
+    std::string library;                    // empty: LumoraDLL.dll beside the program
+    BackEnd backEnd = BackEnd::Composition; // the library's own default
     double speed = 1;
     std::uint32_t logLevel = 0;
     InkChanges ink;
     std::vector<ScreenshotRequest> screenshots; // in order of time
+    std::vector<BackEndSwitch> switches;        // in order of time
 };
 
 // One line that says what is wrong with the command line.

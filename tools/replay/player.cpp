@@ -1,9 +1,10 @@
-// The play loop: samples when they are due, then messages, then screenshots, then sleep until the next of
-// them.
+// The play loop: switches of the back-end and samples when they are due, then messages, then screenshots,
+// then sleep until the next of them.
 #include "player.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include <mmsystem.h>
 
@@ -32,9 +33,10 @@ struct FineTimer {
 } // namespace
 
 Player::Player(InkSession& inkSession, const StopSignal& stopSignal, Timeline playedTimeline,
-               std::vector<ScreenshotRequest> screenshotRequests)
+               std::vector<ScreenshotRequest> screenshotRequests, std::vector<BackEndSwitch> backEndSwitches)
     : session(inkSession), stop(stopSignal), timeline(std::move(playedTimeline)),
-      requests(std::move(screenshotRequests)), endMs(timeline.EndMs() + session.InkLifeMs() + WipeMs)
+      requests(std::move(screenshotRequests)), switches(std::move(backEndSwitches)),
+      endMs(timeline.EndMs() + session.InkLifeMs() + WipeMs)
 {
     LARGE_INTEGER frequency = {};
     QueryPerformanceFrequency(&frequency);
@@ -46,6 +48,7 @@ PlayResult Player::Play()
     const FineTimer fineTimer;
     startTicks = Ticks();
     while (!AtEnd_()) {
+        MakeDueSwitches_();
         InputDueSamples_();
         if (!PumpMessages_() || stop.IsSet()) {
             result.stopped = true;
@@ -113,18 +116,34 @@ void Player::TakeDueScreenshots_()
     }
 }
 
-bool Player::AtEnd_() const { return requests.empty() && !timeline.NextDueMs() && NowMs_() >= endMs; }
+void Player::MakeDueSwitches_()
+{
+    while (!switches.empty() && switches.front().atMs <= NowMs_()) {
+        session.Choose(switches.front().backEnd);
+        switches.erase(switches.begin());
+    }
+}
+
+bool Player::AtEnd_() const
+{
+    return requests.empty() && switches.empty() && !timeline.NextDueMs() && NowMs_() >= endMs;
+}
+
+// The end comes last: it waits for all the rest.
+double Player::NextMoment_() const
+{
+    constexpr double Never = std::numeric_limits<double>::infinity();
+    const double sample = timeline.NextDueMs().value_or(Never);
+    const double screenshot = requests.empty() ? Never : requests.front().atMs;
+    const double backEndSwitch = switches.empty() ? Never : switches.front().atMs;
+    const double next = std::min({sample, screenshot, backEndSwitch});
+    return next < Never ? next : endMs;
+}
 
 void Player::WaitForNextMoment_() const
 {
-    double next = timeline.NextDueMs().value_or(endMs);
-    if (!requests.empty()) {
-        // Without samples the end is behind, or waits for the screenshots too.
-        const double screenshot = requests.front().atMs;
-        next = timeline.NextDueMs() ? std::min(next, screenshot) : screenshot;
-    }
     constexpr double LongestWaitMs = 60'000;
-    const double wait = std::clamp(std::ceil(next - NowMs_()), 0.0, LongestWaitMs);
+    const double wait = std::clamp(std::ceil(NextMoment_() - NowMs_()), 0.0, LongestWaitMs);
     const HANDLE stopEvent = stop.Event();
     MsgWaitForMultipleObjectsEx(1, &stopEvent, static_cast<DWORD>(wait), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }

@@ -25,7 +25,7 @@ struct PlayResult {
 class Player {
 public:
     Player(InkSession& inkSession, const StopSignal& stopSignal, Timeline playedTimeline,
-           std::vector<ScreenshotRequest> screenshotRequests);
+           std::vector<ScreenshotRequest> screenshotRequests, std::vector<BackEndSwitch> backEndSwitches);
 
     PlayResult Play();
 
@@ -35,13 +35,16 @@ private:
     bool PumpMessages_();
     void Dispatch_(const MSG& message);
     void TakeDueScreenshots_();
+    void MakeDueSwitches_();
     bool AtEnd_() const;
+    double NextMoment_() const;
     void WaitForNextMoment_() const;
 
     InkSession& session;
     const StopSignal& stop;
     Timeline timeline;
     std::vector<ScreenshotRequest> requests; // in order of time
+    std::vector<BackEndSwitch> switches;     // in order of time
     std::vector<double> unpaintedInputs;     // when they were handed over
     PlayResult result;
     double ticksPerMs = 1;

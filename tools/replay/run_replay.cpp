@@ -14,16 +14,17 @@ constexpr int ExitFailed = 1;
 constexpr int ExitWrongInput = 2;
 constexpr int ExitStopped = 130;
 
-int Play(const Options& options, const Recording& recording)
+int Play(const Options& options, const Recording& recording, const MakeUnderlay& makeUnderlay)
 {
     const InkLibrary library(options.library.empty() ? LibraryBesideProgram() : PathOf(options.library));
+    const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.Module()) : nullptr;
     const StopSignal stop;
     PlayResult result;
     {
         InkSession session(library, options);
         const Placement placement(recording, session.DrawableSize());
         const Timeline timeline(MakePenSamples(recording, placement), options.speed);
-        result = Player(session, stop, timeline, options.screenshots).Play();
+        result = Player(session, stop, timeline, options.screenshots, options.switches).Play();
     }
     for (const TakenScreenshot& taken : result.screenshots) {
         taken.picture.SaveAsPng(PathOf(taken.file));
@@ -35,7 +36,7 @@ int Play(const Options& options, const Recording& recording)
 
 } // namespace
 
-int RunReplay(const std::vector<std::string>& arguments)
+int RunReplay(const std::vector<std::string>& arguments, const MakeUnderlay& makeUnderlay)
 {
     const auto parsed = ParseOptions(arguments);
     if (const auto* error = std::get_if<OptionsError>(&parsed)) {
@@ -55,7 +56,7 @@ int RunReplay(const std::vector<std::string>& arguments)
     // Pixels mean pixels: without this a scaled desktop would be photographed smaller than it is.
     SetProcessDPIAware();
     try {
-        return Play(options, std::get<Recording>(read));
+        return Play(options, std::get<Recording>(read), makeUnderlay);
     } catch (const std::exception& failure) {
         PrintLine(Channel::Error, std::string("lumora-replay: ") + failure.what());
         return ExitFailed;

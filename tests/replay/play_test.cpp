@@ -1,0 +1,109 @@
+// lumora-replay at play, on the real screen: ink while the pen writes, nothing afterwards.
+#include "program_run.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+
+#include <objidl.h>
+
+// GDI+'s header calls min and max, which the system's headers are told not to define.
+namespace Gdiplus {
+using std::max;
+using std::min;
+} // namespace Gdiplus
+#include <gdiplus.h>
+
+namespace lumora::replay {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr char StandInLine[] = "a stand-in takes the place of the system's composition engine\n";
+
+class Play : public Program {
+protected:
+    Play() { Gdiplus::GdiplusStartup(&gdiplus, &input, nullptr); }
+    ~Play() override { Gdiplus::GdiplusShutdown(gdiplus); }
+
+    void SetUp() override
+    {
+        Program::SetUp();
+        Write("stroke.svc", Stroke());
+    }
+
+    // The programs with the same sources differ only by the engine under the library.
+    Outcome PlayWithStandIn(const std::wstring& options)
+    {
+        return Run(L"stroke.svc --colour FF0000 --life 1000 --brush 20 --no-pressure " + options,
+                   L"lumora-replay-standin.exe");
+    }
+
+    // Of a saved screenshot; opaque red is the composition's, GDI's may be blended with what lies below.
+    int ReddishPixels(const std::wstring& file) const
+    {
+        Gdiplus::Bitmap picture((folder / file).c_str());
+        int count = 0;
+        for (UINT y = 0; y < picture.GetHeight(); ++y) {
+            for (UINT x = 0; x < picture.GetWidth(); ++x) {
+                Gdiplus::Color colour;
+                picture.GetPixel(static_cast<INT>(x), static_cast<INT>(y), &colour);
+                count += colour.GetR() >= 128 && colour.GetG() < 64 && colour.GetB() < 64 ? 1 : 0;
+            }
+        }
+        return count;
+    }
+
+private:
+    // One straight stroke of 1500 ms.
+    static std::string Stroke()
+    {
+        constexpr int Samples = 151;
+        std::ostringstream text;
+        text << Samples << "\n";
+        for (int i = 0; i < Samples; ++i) {
+            text << 1000 + i * 30 << " " << 3000 + i * 5 << " " << i * 10 << " 1 0 900 20000\n";
+        }
+        return text.str();
+    }
+
+    Gdiplus::GdiplusStartupInput input;
+    ULONG_PTR gdiplus = 0;
+};
+
+constexpr int FewestInkPixels = 500;
+
+TEST_F(Play, ShowsInkOnTheDefaultBackEndAndTakesItAway)
+{
+    const Outcome outcome = PlayWithStandIn(L"--screenshot 1400:ink.png --screenshot 3200:gone.png");
+    EXPECT_EQ(outcome.status, 0U) << outcome.error;
+    EXPECT_THAT(outcome.output, testing::StartsWith(StandInLine));
+    EXPECT_GT(ReddishPixels(L"ink.png"), FewestInkPixels);
+    EXPECT_EQ(ReddishPixels(L"gone.png"), 0);
+}
+
+TEST_F(Play, FollowsSwitchesOfTheBackEnd)
+{
+    const Outcome outcome =
+        PlayWithStandIn(L"--switch 50:gdi --screenshot 500:gdi.png --switch 520:composition "
+                        L"--screenshot 1450:back.png --screenshot 3200:gone.png");
+    EXPECT_EQ(outcome.status, 0U) << outcome.error;
+    EXPECT_GT(ReddishPixels(L"gdi.png"), FewestInkPixels);
+    EXPECT_GT(ReddishPixels(L"back.png"), FewestInkPixels);
+    EXPECT_EQ(ReddishPixels(L"gone.png"), 0);
+}
+
+TEST_F(Play, NeedsNoEngineUnderGDI)
+{
+    const Outcome outcome =
+        Run(L"stroke.svc --backend gdi --colour FF0000 --life 1000 --brush 20 --no-pressure "
+            L"--screenshot 500:ink.png");
+    EXPECT_EQ(outcome.status, 0U) << outcome.error;
+    EXPECT_THAT(outcome.output, Not(HasSubstr("stand-in")));
+    EXPECT_THAT(outcome.output, HasSubstr("saved ink.png"));
+    EXPECT_GT(ReddishPixels(L"ink.png"), FewestInkPixels);
+}
+
+} // namespace
+} // namespace lumora::replay
