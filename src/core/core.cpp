@@ -5,6 +5,7 @@
 #include "core/make_or_null.h"
 #include "ink/truncation.h"
 #include "interface/debug_log.h"
+#include "render/d2d.h"
 #include "render/direct_composition.h"
 #include "render/gdi.h"
 #include "render/key_fill.h"
@@ -82,11 +83,11 @@ void Core::BindCallbacks_()
     drawing->SetVectorOutline(g_renderingType == RenderingType::DirectComposition);
 }
 
-// In the order of RenderingType. Direct2D has no back-end yet.
+// In the order of RenderingType.
 void Core::CreateBackEnds_()
 {
     backEnds.push_back(MakeOrNull<DirectComposition>());
-    backEnds.push_back(nullptr);
+    backEnds.push_back(MakeOrNull<D2D>());
     backEnds.push_back(MakeOrNull<GDI>());
 }
 

@@ -1,6 +1,9 @@
 // The off-screen bitmap that the Direct2D and GDI back-ends draw into.
 #include "render/memory_surface.h"
 
+#include "render/key_fill.h"
+#include "render/line_rules.h"
+
 namespace zq::LM {
 
 void MemorySurface::Create(HWND window, int width, int height)
@@ -14,6 +17,8 @@ void MemorySurface::Create(HWND window, int width, int height)
         return;
     }
     selected.emplace(dc.get(), bitmap.get());
+    // A new bitmap is black, and a back-end may fail to draw on it or not reach all of it.
+    FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey);
 }
 
 void MemorySurface::Release()

@@ -14,7 +14,7 @@ public:
     MemorySurface(const MemorySurface&) = delete;
     MemorySurface& operator=(const MemorySurface&) = delete;
 
-    // Makes a bitmap of the window's format. On failure there is no surface.
+    // Makes a bitmap of the window's format, transparent all over. On failure there is no surface.
     void Create(HWND window, int width, int height);
     void Release();
 

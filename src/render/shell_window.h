@@ -11,4 +11,7 @@ namespace zq::LM {
 std::optional<RECT> ShellWindowRect();
 std::optional<RECT> ShellClientRect();
 
+// Where the overlay lies, and what is drawn into, when there is none.
+inline constexpr RECT ScreenWithoutShell = {0, 0, 256, 256};
+
 } // namespace zq::LM

@@ -12,9 +12,6 @@ namespace zq::LM {
 
 namespace {
 
-// Where the overlay lies when there is no shell.
-constexpr RECT ScreenWithoutShell = {0, 0, 256, 256};
-
 unsigned g_classCounter = 0;
 
 int Width(const RECT& rectangle) { return rectangle.right - rectangle.left; }

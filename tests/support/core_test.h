@@ -8,6 +8,7 @@
 #include "support/recorded_log.h"
 #include "support/recording_back_ends.h"
 #include "support/screen.h"
+#include "support/system_stand_ins.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -59,6 +60,7 @@ protected:
         return params;
     }
 
+    NoGraphicsDevice noDevice{GetModuleHandleW(nullptr)};
     RecordedCore recorded;
 
 private:

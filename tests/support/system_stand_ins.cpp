@@ -1,6 +1,8 @@
 // Stand-ins for what the library asks of the system.
 #include "support/system_stand_ins.h"
 
+#include <d2d1.h>
+
 #include <string_view>
 
 namespace zq::LM::test {
@@ -46,6 +48,16 @@ BOOL WINAPI StandInKillTimer(HWND, UINT_PTR id)
 }
 
 HRESULT WINAPI RefuseDevice() { return E_FAIL; }
+
+using CreateFactory = HRESULT WINAPI(D2D1_FACTORY_TYPE, const GUID&, const D2D1_FACTORY_OPTIONS*, void**);
+CreateFactory* g_createFactory = nullptr;
+
+// The back-end asks for the first interface of a factory, and nobody else does.
+HRESULT WINAPI RefuseFirstFactory(D2D1_FACTORY_TYPE type, const GUID& id, const D2D1_FACTORY_OPTIONS* options,
+                                  void** factory)
+{
+    return id == __uuidof(ID2D1Factory) ? E_FAIL : g_createFactory(type, id, options, factory);
+}
 
 } // namespace
 
@@ -114,9 +126,15 @@ TimerStandIn::TimerStandIn(HMODULE library, unsigned failures)
 const std::vector<TimerStandIn::Call>& TimerStandIn::Started() const { return g_timers; }
 const std::vector<UINT_PTR>& TimerStandIn::Killed() const { return g_killedTimers; }
 
+NoDirect2DBackEnd::NoDirect2DBackEnd(HMODULE library)
+    : patch(library, "d2d1.dll", "D2D1CreateFactory", AsAddress(RefuseFirstFactory))
+{
+    g_createFactory = reinterpret_cast<CreateFactory*>(patch.Original());
+}
+
 // Takes none of its arguments: they stay with the caller.
 NoGraphicsDevice::NoGraphicsDevice(HMODULE library)
-    : patch(library, "d3d11.dll", "D3D11CreateDevice", AsAddress(RefuseDevice))
+    : patch(library, "d3d11.dll", "D3D11CreateDevice", AsAddress(RefuseDevice)), noDirect2D(library)
 {
 }
 

@@ -73,7 +73,17 @@ private:
     ImportPatch kill;
 };
 
-// Systems differ in whether they can compose: no device here, so that every overlay starts alike. A
+// The Direct2D back-end finds no Direct2D: every instance makes one, which takes time. Direct2D for others is
+// there. One at a time.
+class NoDirect2DBackEnd {
+public:
+    explicit NoDirect2DBackEnd(HMODULE library);
+
+private:
+    ImportPatch patch;
+};
+
+// Systems differ in whether they can compose: no device here, so that every overlay starts alike, and fast. A
 // composition stand-in put on top of it brings a device of its own.
 class NoGraphicsDevice {
 public:
@@ -81,6 +91,7 @@ public:
 
 private:
     ImportPatch patch;
+    NoDirect2DBackEnd noDirect2D;
 };
 
 } // namespace zq::LM::test

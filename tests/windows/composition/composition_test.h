@@ -31,6 +31,7 @@ protected:
 
     int setUps = 1;
     CompositionStandIn composition{ModuleWithDevices()};
+    NoDirect2DBackEnd noDirect2D{library.Module()}; // its calls are none of these tests' business
 };
 
 } // namespace zq::LM::test

@@ -103,9 +103,11 @@ TEST_F(CoreFrameTest, TheSurfaceIsMadeAnewBetweenResizeAndFrame)
               (Lines{"back-end 2 Resize(window 1)", "DeleteDC(memory dc)", "DeleteObject(bitmap)",
                      "back-end 0 SetMemoryDC(null)", "back-end 1 SetMemoryDC(null)",
                      "back-end 2 SetMemoryDC(null)", "GetDC(window 1)", "CreateCompatibleDC(dc of window 1)",
-                     "CreateCompatibleBitmap(dc of window 1, 800, 600)", "back-end 0 SetMemoryDC(memory dc)",
-                     "back-end 1 SetMemoryDC(memory dc)", "back-end 2 SetMemoryDC(memory dc)",
-                     "GetDC(window 1)", "back-end 2 Clear", "back-end 2 Present"}));
+                     "CreateCompatibleBitmap(dc of window 1, 800, 600)",
+                     "DeleteObject(*)", // the brush that it is filled with
+                     "back-end 0 SetMemoryDC(memory dc)", "back-end 1 SetMemoryDC(memory dc)",
+                     "back-end 2 SetMemoryDC(memory dc)", "GetDC(window 1)", "back-end 2 Clear",
+                     "back-end 2 Present"}));
 }
 
 void CoreFrameTest::ExpectOneFrameLost(RenderingType type, const std::function<void()>& thrower)

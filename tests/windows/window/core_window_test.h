@@ -85,6 +85,7 @@ protected:
 
     ShellStandIn shell{Program(), Desktop};
     TimerStandIn timer{Program()};
+    NoGraphicsDevice noDevice{Program()};
     SystemCalls calls{Program()};
     std::unique_ptr<Core> core;
 };

@@ -209,6 +209,9 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
         "GetDC(window 1)",
         "CreateCompatibleDC(dc of window 1)",
         "CreateCompatibleBitmap(dc of window 1, 640, 480)",
+        "CreateSolidBrush(0xFF00FF)",
+        "PatBlt(memory dc, 0, 0, 640, 480, 0xF00021)",
+        "DeleteObject(brush 0xFF00FF)",
         "ReleaseDC(window 1, dc of window 1)",
     };
     SelectGDI();

@@ -9,6 +9,7 @@ namespace {
 
 const std::string FitDesktop = "SetWindowPos(window 1, topmost, 0, 0, 640, 480, 64)";
 const std::string ClearDesktop = "PatBlt(dc of window 1, 0, 0, 640, 480, 0xF00021)";
+const std::string ClearSurface = "PatBlt(memory dc, 0, 0, 640, 480, 0xF00021)";
 constexpr int Width = 640;
 constexpr int Height = 480;
 
@@ -59,7 +60,8 @@ TEST_F(SetUpTest, AWindowThatDiffersInBothIsResizedAtTheOriginAndClearedForGDI)
     RecordPainting();
     HWND window = library.Create();
     EXPECT_EQ(calls.Of("SetWindowPos"), Lines{FitDesktop});
-    EXPECT_EQ(calls.Of("PatBlt"), (Lines{ClearDesktop, ClearDesktop})); // after the resize, after the frame
+    // After the resize, after the frame, and the new surface.
+    EXPECT_EQ(calls.Of("PatBlt"), (Lines{ClearDesktop, ClearDesktop, ClearSurface}));
     RECT place{};
     GetWindowRect(window, &place);
     EXPECT_EQ(place.left, 0);
@@ -73,7 +75,7 @@ TEST_F(SetUpTest, AWindowOfTheRightSizeIsClearedForGDIOnceAfterTheFrame)
     SelectGDI();
     RecordPainting();
     library.Create();
-    EXPECT_EQ(calls.Of("PatBlt"), Lines{ClearDesktop});
+    EXPECT_EQ(calls.Of("PatBlt"), (Lines{ClearDesktop, ClearSurface}));
 }
 
 TEST_F(SetUpTest, AResizedWindowIsNotClearedForDirectComposition)
@@ -139,12 +141,12 @@ TEST_F(SetUpTest, TheFirstFrameDrawsNothingBecauseTheSurfaceComesAfterIt)
     SelectGDI();
     RecordPainting();
     library.Create();
-    // The only clear is the window's own; a frame into a surface would be one more.
+    // The clears are the window's own and the new surface's; a frame into the surface would be one more.
     const Lines made = calls.Take();
     const auto clear = std::find(made.begin(), made.end(), ClearDesktop);
     const auto surface = std::find(made.begin(), made.end(), "CreateCompatibleDC(dc of window 1)");
     EXPECT_LT(clear, surface);
-    EXPECT_EQ(std::count(made.begin(), made.end(), "PatBlt(memory dc, 0, 0, 640, 480, 0xF00021)"), 0);
+    EXPECT_EQ(std::count(made.begin(), made.end(), ClearSurface), 1);
 }
 
 TEST_F(SetUpTest, WithoutTheUserInterfaceThereIsNoHotkey)

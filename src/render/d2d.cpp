@@ -1,0 +1,145 @@
+// The Direct2D back-end.
+#include "render/d2d.h"
+
+#include "render/d2d_rules.h"
+#include "render/line_rules.h"
+#include "render/shell_window.h"
+
+namespace zq::LM {
+
+D2D::D2D() : clearColour(std::make_unique<D2D1_COLOR_F>(D2D1_COLOR_F{0.0F, 0.0F, 0.0F, 1.0F}))
+{
+    SetUp_(); // a failure shows as a missing render target
+}
+
+// The order is fixed.
+D2D::~D2D()
+{
+    factory.Reset();
+    renderTarget.Reset();
+    writeFactory.Reset();
+    textFormat.Reset();
+    clearColour.reset();
+    dc = nullptr;
+    window = nullptr;
+}
+
+bool D2D::SetUp_()
+{
+    if (FAILED(D2D1CreateFactory(D2D1_FACTORY_TYPE_SINGLE_THREADED, __uuidof(ID2D1Factory), nullptr,
+                                 reinterpret_cast<void**>(factory.GetAddressOf())))) {
+        return false;
+    }
+    CreateTextFormat_();
+    D2D1_RENDER_TARGET_PROPERTIES properties{};
+    properties.pixelFormat = {DXGI_FORMAT_B8G8R8A8_UNORM, D2D1_ALPHA_MODE_IGNORE};
+    if (FAILED(factory->CreateDCRenderTarget(&properties, renderTarget.GetAddressOf()))) {
+        return false;
+    }
+    // A smoothed edge would mix ink with the key: neither ink nor transparent.
+    renderTarget->SetAntialiasMode(D2D1_ANTIALIAS_MODE_ALIASED);
+    renderTarget->SetTextAntialiasMode(D2D1_TEXT_ANTIALIAS_MODE_ALIASED);
+    return true;
+}
+
+// Failures are not examined: without a format there is no text, and ink is still drawn.
+void D2D::CreateTextFormat_()
+{
+    constexpr float Size = 16.0F;
+    DWriteCreateFactory(DWRITE_FACTORY_TYPE_SHARED, __uuidof(IDWriteFactory),
+                        reinterpret_cast<IUnknown**>(writeFactory.GetAddressOf()));
+    if (writeFactory != nullptr) {
+        writeFactory->CreateTextFormat(L"Meiryo", nullptr, DWRITE_FONT_WEIGHT_NORMAL,
+                                       DWRITE_FONT_STYLE_OBLIQUE, DWRITE_FONT_STRETCH_NORMAL, Size, L"",
+                                       textFormat.GetAddressOf());
+    }
+}
+
+bool D2D::InitTransparentWindow(HWND newWindow, unsigned colorKey)
+{
+    constexpr BYTE Opaque = 255;
+    window = newWindow;
+    *clearColour = CrossedKeyColour(colorKey);
+    SetLayeredWindowAttributes(window, colorKey, Opaque, LWA_COLORKEY);
+    return true;
+}
+
+bool D2D::Clear()
+{
+    if (renderTarget == nullptr) {
+        return false;
+    }
+    constexpr D2D1_MATRIX_3X2_F Identity = {{{1.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F}}};
+    renderTarget->BeginDraw();
+    renderTarget->SetTransform(&Identity);
+    if (isBound) { // the first frame comes before the bitmap, and not every Direct2D clears nothing unharmed
+        renderTarget->Clear(clearColour.get());
+    }
+    return true;
+}
+
+bool D2D::Present()
+{
+    if (renderTarget == nullptr) {
+        return false;
+    }
+    const HRESULT result = renderTarget->EndDraw();
+    // Nothing is made anew: the next frame simply draws again.
+    return result == S_OK || result == static_cast<HRESULT>(D2DERR_RECREATE_TARGET);
+}
+
+void D2D::DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, int y2, unsigned width2,
+                   unsigned colour2)
+{
+    if (!CanDraw_()) {
+        return;
+    }
+    const ComPtr<ID2D1SolidColorBrush> brush = NewBrush_(MeanColour(colour1, colour2));
+    if (brush == nullptr) {
+        return;
+    }
+    // Made for every segment: nothing is kept between calls. Without it the line has flat ends.
+    const D2D1_STROKE_STYLE_PROPERTIES properties = RoundStroke();
+    ComPtr<ID2D1StrokeStyle> style;
+    factory->CreateStrokeStyle(&properties, nullptr, 0, style.GetAddressOf());
+    renderTarget->DrawLine(D2DPoint(x1, y1), D2DPoint(x2, y2), brush.Get(), HalfWidthSum(width1, width2),
+                           style.Get());
+}
+
+void D2D::DrawText(const wchar_t* text, int x, int y, unsigned colour)
+{
+    const std::optional<RECT> shell = ShellWindowRect();
+    if (!shell || !CanDraw_() || textFormat == nullptr) {
+        return;
+    }
+    const ComPtr<ID2D1SolidColorBrush> brush = NewBrush_(ShareColour(colour, 1.0F));
+    if (brush == nullptr) {
+        return;
+    }
+    const D2D1_POINT_2F corner = D2DPoint(x, y);
+    const D2D1_RECT_F layout = {corner.x, corner.y, static_cast<float>(shell->right),
+                                static_cast<float>(shell->bottom)};
+    renderTarget->DrawText(text, static_cast<UINT32>(lstrlenW(text)), textFormat.Get(), &layout, brush.Get(),
+                           D2D1_DRAW_TEXT_OPTIONS_NONE, DWRITE_MEASURING_MODE_NATURAL);
+}
+
+void D2D::SetMemoryDC(HDC newDC)
+{
+    dc = newDC;
+    if (dc == nullptr || renderTarget == nullptr) {
+        return;
+    }
+    const RECT shell = ShellWindowRect().value_or(ScreenWithoutShell);
+    if (SUCCEEDED(renderTarget->BindDC(dc, &shell))) {
+        isBound = true; // for good: a failed binding leaves the one before
+    }
+}
+
+Microsoft::WRL::ComPtr<ID2D1SolidColorBrush> D2D::NewBrush_(const D2D1_COLOR_F& colour)
+{
+    ComPtr<ID2D1SolidColorBrush> made;
+    const HRESULT result = renderTarget->CreateSolidColorBrush(&colour, nullptr, made.GetAddressOf());
+    return SUCCEEDED(result) ? made : nullptr;
+}
+
+} // namespace zq::LM
