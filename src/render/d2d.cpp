@@ -138,8 +138,10 @@ void D2D::SetMemoryDC(HDC newDC)
 Microsoft::WRL::ComPtr<ID2D1SolidColorBrush> D2D::NewBrush_(const D2D1_COLOR_F& colour)
 {
     ComPtr<ID2D1SolidColorBrush> made;
-    const HRESULT result = renderTarget->CreateSolidColorBrush(&colour, nullptr, made.GetAddressOf());
-    return SUCCEEDED(result) ? made : nullptr;
+    if (FAILED(renderTarget->CreateSolidColorBrush(&colour, nullptr, made.GetAddressOf()))) {
+        made.Reset();
+    }
+    return made;
 }
 
 } // namespace zq::LM

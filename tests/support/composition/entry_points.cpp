@@ -10,6 +10,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace zq::LM::test {
 
@@ -74,12 +75,15 @@ template <typename Hook> Rerouted Through(const char* dll, const char* function)
 
 void KeepNothing(void*) {}
 
-std::array<Rerouted, EntryPoints::Count> AllRerouted()
+// What every module that draws needs comes first, then what the engine needs.
+constexpr std::size_t DrawingFunctions = 2;
+
+std::vector<Rerouted> AllRerouted()
 {
-    return {Through<D3DHook>("d3d11.dll", "D3D11CreateDevice"),
-            Through<DxgiHook>("dxgi.dll", "CreateDXGIFactory2"),
-            Through<D2DHook>("d2d1.dll", "D2D1CreateFactory"),
+    return {Through<D2DHook>("d2d1.dll", "D2D1CreateFactory"),
             Through<WriteHook>("dwrite.dll", "DWriteCreateFactory"),
+            Through<D3DHook>("d3d11.dll", "D3D11CreateDevice"),
+            Through<DxgiHook>("dxgi.dll", "CreateDXGIFactory2"),
             {"dcomp.dll", "DCompositionCreateDevice",
              AsAddress(CreateCompositionDevice<"DCompositionCreateDevice", IDXGIDevice>), KeepNothing},
             {"dcomp.dll", "DCompositionCreateDevice3",
@@ -90,17 +94,24 @@ std::array<Rerouted, EntryPoints::Count> AllRerouted()
 
 EntryPoints::EntryPoints(HMODULE module)
 {
-    const auto rerouted = AllRerouted();
-    for (std::size_t i = 0; i < Count; ++i) {
-        void** entry = FindImportEntry(module, rerouted[i].dll, rerouted[i].function);
-        if (entry == nullptr) {
-            throw std::runtime_error(std::string("the module does not import ") + rerouted[i].function);
+    const std::vector<Rerouted> all = AllRerouted();
+    std::vector<Rerouted> imported;
+    std::string missing;
+    for (const Rerouted& each : all) {
+        if (void** entry = FindImportEntry(module, each.dll, each.function)) {
+            imported.push_back(each);
+            places.push_back({entry, *entry});
+        } else if (missing.empty()) {
+            missing = each.function;
         }
-        places[i] = {entry, *entry};
     }
-    for (std::size_t i = 0; i < Count; ++i) {
-        rerouted[i].keepOriginal(places[i].original);
-        WriteEntry(places[i].entry, rerouted[i].replacement);
+    const bool drawsOnly = imported.size() == DrawingFunctions && missing == all[DrawingFunctions].function;
+    if (!missing.empty() && !drawsOnly) {
+        throw std::runtime_error("the module does not import " + missing);
+    }
+    for (std::size_t i = 0; i < imported.size(); ++i) {
+        imported[i].keepOriginal(places[i].original);
+        WriteEntry(places[i].entry, imported[i].replacement);
     }
 }
 

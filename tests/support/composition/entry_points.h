@@ -3,17 +3,15 @@
 
 #include <windows.h>
 
-#include <array>
-#include <cstddef>
+#include <vector>
 
 namespace zq::LM::test {
 
 // While it lives, the module's imports lead to the stand-in. Raises std::runtime_error when the module does
-// not import them all. One at a time.
+// not import them all; only the engine may be missing, as a whole, from a module that draws into bitmaps. One
+// at a time.
 class EntryPoints {
 public:
-    static constexpr std::size_t Count = 6;
-
     explicit EntryPoints(HMODULE module);
     ~EntryPoints();
     EntryPoints(const EntryPoints&) = delete;
@@ -24,7 +22,7 @@ private:
         void** entry;
         void* original;
     };
-    std::array<Place, Count> places{};
+    std::vector<Place> places;
 };
 
 } // namespace zq::LM::test
