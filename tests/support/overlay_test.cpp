@@ -3,11 +3,16 @@
 
 namespace zq::LM::test {
 
-HWND OverlayTest::CreateWithGDI()
+void OverlayTest::Select(WPARAM command)
 {
     library.Create();
-    Choose(ChooseGDI);
+    Choose(command);
     DestroyAndForget();
+}
+
+HWND OverlayTest::CreateWithGDI()
+{
+    Select(ChooseGDI);
     return library.Create();
 }
 

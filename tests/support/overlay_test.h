@@ -36,8 +36,9 @@ class OverlayTest : public ::testing::Test {
 protected:
     static constexpr RECT Desktop = {200, 60, 840, 540};
 
-    // The instance with the GDI back-end active from its start, so that no window of another back-end is left
+    // The command's back-end is active from the start of the next instance, so that no window of another is left
     // behind.
+    void Select(WPARAM command);
     HWND CreateWithGDI();
 
     // Takes the quit message of the destroyed window out of the queue.

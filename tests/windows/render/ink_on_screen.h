@@ -16,10 +16,14 @@ protected:
     static constexpr COLORREF Black = RGB(0, 0, 0);
     static constexpr RECT All = {0, 0, Desktop.right - Desktop.left, Desktop.bottom - Desktop.top};
 
+    explicit InkOnScreen(const RECT& place = Desktop) : place(place) { shell.Move(place); }
+
+    virtual void Start() { CreateWithGDI(); }
+
     // Red strokes of one width that live for a second, and nothing else.
     void SetUp() override
     {
-        CreateWithGDI();
+        Start();
         params = Params();
         params.inkDecayTime = 1000;
         params.inkColor = Red;
@@ -46,10 +50,10 @@ protected:
         Paint();
     }
 
-    static Picture Look(const RECT& part = All)
+    Picture Look(const RECT& part = All) const
     {
         HDC screen = GetDC(nullptr);
-        SetViewportOrgEx(screen, Desktop.left, Desktop.top, nullptr);
+        SetViewportOrgEx(screen, place.left, place.top, nullptr);
         Picture picture = TakePicture(screen, part);
         ReleaseDC(nullptr, screen);
         return picture;
@@ -66,13 +70,18 @@ protected:
         return count;
     }
 
+    RECT place;
     LM_Params params{};
-    Backdrop backdrop{Desktop, Green};
+    Backdrop backdrop{place, Green};
 };
 
 // The same with the overlay's own opacity taken away, so that ink has its own colour on every display,
 // whether or not that blends windows.
 class OpaqueInkOnScreen : public InkOnScreen {
+protected:
+    using InkOnScreen::InkOnScreen;
+
+private:
     static BOOL WINAPI SetOpaqueAttributes(HWND window, COLORREF key, BYTE, DWORD flags)
     {
         constexpr BYTE Opaque = 255;

@@ -37,10 +37,10 @@ protected:
         return false;
     }
 
-    static COLORREF At(int x, int y) { return Look({x, y, x + 1, y + 1}).At(x, y); }
+    COLORREF At(int x, int y) const { return Look({x, y, x + 1, y + 1}).At(x, y); }
 
     // What a position shows in the end.
-    static testing::AssertionResult Shows(int x, int y, COLORREF wanted)
+    testing::AssertionResult Shows(int x, int y, COLORREF wanted) const
     {
         if (Comes([&] { return IsNear(At(x, y), wanted); })) {
             return testing::AssertionSuccess();

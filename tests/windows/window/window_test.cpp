@@ -3,13 +3,6 @@
 
 namespace zq::LM::test {
 
-void WindowTest::SelectGDI()
-{
-    library.Create();
-    Choose(ChooseGDI);
-    DestroyAndForget();
-}
-
 void WindowTest::RecordCreation()
 {
     calls.Record<"LoadImageW">("USER32.dll", LoadImageW);

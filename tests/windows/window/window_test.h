@@ -15,8 +15,7 @@ class WindowTest : public OverlayTest {
 protected:
     WindowTest() { calls.Name(shell.Window(), "shell"); }
 
-    // GDI is the type of the next instance, and no window of another type is left behind.
-    void SelectGDI();
+    void SelectGDI() { Select(ChooseGDI); }
 
     // Everything that a creation does with the system, but for what a version resource needs.
     void RecordCreation();
