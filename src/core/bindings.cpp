@@ -57,6 +57,8 @@ void ForgetWindowCore(const Core* core)
     }
 }
 
+bool IsWindowCore(const Core* core) { return LivingCore() == core; }
+
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (g_core == nullptr) {

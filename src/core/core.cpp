@@ -32,6 +32,7 @@ Core::Core(HMODULE module, unsigned creationValue)
     CreateDrawing_();
     BindCallbacks_();
     CreateBackEnds_();
+    tasktray = MakeOrNull<sc::WinGui::Tasktray>();
 }
 
 // The order is fixed: later members may use earlier ones until they are gone. The window itself is not
@@ -44,6 +45,8 @@ Core::~Core()
     drawing.reset();
     params.reset();
     paramsView.reset();
+    tasktray.reset();
+    trayMenu.Destroy();
     window.UnregisterHotkey();
     window.StopTimer();
     for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {

@@ -6,8 +6,11 @@
 #include "ink/drawing.h"
 #include "render/drawing_lib.h"
 #include "render/memory_surface.h"
+#include "render/rendering_type.h"
 #include "settings/params_view.h"
 #include "ui/overlay_window.h"
+#include "ui/tasktray.h"
+#include "ui/tray_menu.h"
 
 #include <cstddef>
 #include <memory>
@@ -69,6 +72,7 @@ private:
     void OnPaint() override;
     void OnTick() override;
     void OnCommand(unsigned id) override;
+    void OnMenuWanted() override;
 
     void ReadVersion_();
     void CreateDrawing_();
@@ -82,6 +86,11 @@ private:
     bool FollowScreen_();
     void DrawFrame_();
     void PaintFromMemory_();
+
+    void ShowTray_();
+    void RunCommand_(unsigned id);
+    void ChooseBackEnd_(RenderingType type, const wchar_t* line);
+    void MarkMenu_() const;
 
     void PassParams_();
     void RefreshView_();
@@ -98,6 +107,8 @@ private:
     PenData lastPenData{};              // the last sample of the most recent input
     BackEnds backEnds;
     std::unique_ptr<ParamsView> paramsView; // null until there is a settings dialog
+    TrayMenu trayMenu;
+    std::unique_ptr<sc::WinGui::Tasktray> tasktray;
     FileVersion fileVersion;
     MemorySurface memorySurface;
 };

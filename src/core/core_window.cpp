@@ -1,4 +1,4 @@
-// The Core's side of the overlay window: set-up, painting, ticks and commands.
+// The Core's side of the overlay window: set-up, painting and ticks.
 #include "core/bindings.h"
 #include "core/core.h"
 #include "interface/debug_log.h"
@@ -7,7 +7,6 @@
 #include "render/line_rules.h"
 #include "render/rendering_type.h"
 #include "render/shell_window.h"
-#include "resources/resource_ids.h"
 #include "ui/user_interface_switch.h"
 
 namespace zq::LM {
@@ -39,8 +38,12 @@ LRESULT Core::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
 
 void Core::OnCreated()
 {
+    if (g_userInterfaceSwitch) {
+        ShowTray_();
+    }
     window.MeasurePixels();
     FollowScreen_();
+    MarkMenu_();
     window.StartTimer();
 }
 
@@ -156,30 +159,6 @@ void Core::OnTick()
         window.Invalidate();
     }
     g_previousLiveCount = liveCount;
-}
-
-void Core::OnCommand(unsigned id)
-{
-    const auto choose = [this](RenderingType type, const wchar_t* line) {
-        // Never back to false: choosing the old type again still rebuilds.
-        renderingTypeChanged = renderingTypeChanged || g_renderingType != type;
-        g_renderingType = type;
-        Log(BASIC, line);
-    };
-    switch (id) {
-    case CommandDirectComposition:
-        choose(RenderingType::DirectComposition, L"Direct Composition is set.\n");
-        break;
-    case CommandDirect2D:
-        choose(RenderingType::Direct2D, L"Direct2D is set.\n");
-        break;
-    case CommandGDI:
-        choose(RenderingType::GDI, L"GDI is set.\n");
-        break;
-    default:
-        break;
-    }
-    window.Invalidate();
 }
 
 } // namespace zq::LM

@@ -10,6 +10,9 @@ public:
     ParamsView(const ParamsView&) = delete;
     ParamsView& operator=(const ParamsView&) = delete;
 
+    // Shows itself; nothing happens when it is open already.
+    virtual void Open() = 0;
+
     // The record that it was given has changed.
     virtual void Refresh() = 0;
 };

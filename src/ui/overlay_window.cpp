@@ -4,6 +4,7 @@
 #include "interface/debug_log.h"
 #include "render/rendering_type.h"
 #include "render/shell_window.h"
+#include "ui/tray_message.h"
 
 #include <cwchar>
 #include <iterator>
@@ -91,11 +92,32 @@ LRESULT OverlayWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM
                     // lines
         Log(g_frameLogLevel, L"WM_HOTKEY ... ");
         Log(g_frameLogLevel, L"WM_USER_DEF_TRAY_MESSAGE ... ");
+        events.OnMenuWanted();
         Log(g_frameLogLevel, L"done.\n");
         Log(g_frameLogLevel, L"done.\n");
         return 0;
+    case TrayMessage: {
+        Log(g_frameLogLevel, L"WM_USER_DEF_TRAY_MESSAGE ... ");
+        const LRESULT result = ServeTrayMessage_(handle, wParam, lParam);
+        Log(g_frameLogLevel, L"done.\n");
+        return result;
+    }
     default:
         return DefWindowProcW(handle, message, wParam, lParam);
+    }
+}
+
+LRESULT OverlayWindow::ServeTrayMessage_(HWND handle, WPARAM wParam, LPARAM lParam)
+{
+    switch (lParam) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+        events.OnMenuWanted();
+        return 0;
+    case WM_LBUTTONDBLCLK: // its first click has opened the menu
+        return 0;
+    default:
+        return DefWindowProcW(handle, TrayMessage, wParam, lParam);
     }
 }
 

@@ -57,6 +57,8 @@ public:
     PixelDensity Density() const { return pixelsPerMm; }
 
 private:
+    LRESULT ServeTrayMessage_(HWND handle, WPARAM wParam, LPARAM lParam);
+
     WindowEvents& events;
     HWND window = nullptr;
     WNDCLASSEXW windowClass{};

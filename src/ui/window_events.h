@@ -10,6 +10,7 @@ public:
     virtual void OnPaint() = 0;
     virtual void OnTick() = 0;
     virtual void OnCommand(unsigned id) = 0;
+    virtual void OnMenuWanted() = 0; // by the mouse on the tray icon or by the hotkey
 
 protected:
     ~WindowEvents() = default;

@@ -122,6 +122,12 @@ void NameResult(const char* function, const void* result, const std::vector<std:
         g_state.objects[result] = "memory dc";
     } else if (maker == "CreateCompatibleBitmap") {
         g_state.objects[result] = "bitmap";
+    } else if (maker == "LoadImageW" && arguments[2] == ShowNumber(IMAGE_ICON)) {
+        g_state.objects[result] = "icon";
+    } else if (maker == "LoadMenuW") {
+        g_state.objects[result] = "menu";
+    } else if (maker == "GetSubMenu") {
+        g_state.objects[result] = "popup " + arguments[1];
     }
 }
 

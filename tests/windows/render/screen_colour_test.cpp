@@ -49,6 +49,7 @@ COLORREF WINAPI SayPixel(HDC, int x, int y)
 class RefreshCount : public ParamsView {
 public:
     explicit RefreshCount(int& count) : count(count) {}
+    void Open() override { ADD_FAILURE() << "nobody opens it"; }
     void Refresh() override { ++count; }
 
 private:

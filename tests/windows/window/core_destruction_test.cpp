@@ -18,6 +18,7 @@ protected:
         g_userInterfaceSwitch = true;
         RecordDestruction();
         RecordHotkey();
+        RecordTray();
         HWND window = CreateWindowed(RenderingType::GDI);
         core->SetParamsView(std::make_unique<TracedView>());
         calls.Take();
@@ -26,7 +27,7 @@ protected:
         return window;
     }
 
-    const Lines surfaceAndEngine = {
+    const Lines upToTheMenu = {
         "DeleteDC(memory dc)",
         "DeleteObject(bitmap)",
         "back-end 0 SetMemoryDC(null)",
@@ -35,12 +36,15 @@ protected:
         "engine freed",
         "record freed",
         "view destroyed",
+        "Shell_NotifyIconW(2, *)",
+        "DestroyIcon(icon)",
+        "DestroyMenu(menu)",
     };
     const Lines backEnds = {"back-end 0 destroyed", "back-end 1 destroyed", "back-end 2 destroyed"};
 
     Lines Expected(const Lines& ofTheWindow) const
     {
-        Lines all = surfaceAndEngine;
+        Lines all = upToTheMenu;
         all.insert(all.end(), ofTheWindow.begin(), ofTheWindow.end());
         all.insert(all.end(), backEnds.begin(), backEnds.end());
         return all;
@@ -90,7 +94,8 @@ TEST_F(CoreDestructionTest, AWindowThatOutlivesItsCoreReachesItNoMore)
     const LogLevel all(ALL);
     calls.RecordLog();
     calls.Take();
-    for (const UINT message : {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_PAINT}}) {
+    for (const UINT message :
+         {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_APP + 46}, UINT{WM_PAINT}}) {
         SendMessageW(window, message, 0, 0);
     }
     EXPECT_EQ(calls.Take(), Lines{});

@@ -1,6 +1,8 @@
 // A Core of the test program's own, with its calls to the system recorded.
 #include "windows/window/core_window_test.h"
 
+#include <shellapi.h>
+
 namespace zq::LM::test {
 
 CoreWindowTest::CoreWindowTest() { calls.Name(shell.Window(), "shell"); }
@@ -50,6 +52,20 @@ void CoreWindowTest::RecordHotkey()
     calls.Answer<"GlobalDeleteAtom">("KERNEL32.dll", GlobalDeleteAtom, [](ATOM) { return ATOM{0}; });
     calls.Answer<"RegisterHotKey">("USER32.dll", RegisterHotKey, [](HWND, int, UINT, UINT) { return TRUE; });
     calls.Answer<"UnregisterHotKey">("USER32.dll", UnregisterHotKey, [](HWND, int) { return TRUE; });
+}
+
+void CoreWindowTest::RecordTray()
+{
+    calls.Answer<"LoadImageW">("USER32.dll", LoadImageW,
+                               [](HINSTANCE, LPCWSTR name, UINT type, int, int, UINT) -> HANDLE {
+                                   return type == IMAGE_ICON ? CopyIcon(LoadIconW(nullptr, IDI_APPLICATION))
+                                                             : LoadCursorW(nullptr, name);
+                               });
+    calls.Answer<"LoadMenuW">("USER32.dll", LoadMenuW, [](HINSTANCE, LPCWSTR) { return CreateMenu(); });
+    calls.Answer<"Shell_NotifyIconW">("SHELL32.dll", Shell_NotifyIconW,
+                                      [](DWORD, NOTIFYICONDATAW*) { return TRUE; });
+    calls.Record<"DestroyIcon">("USER32.dll", DestroyIcon);
+    calls.Record<"DestroyMenu">("USER32.dll", DestroyMenu);
 }
 
 void CoreWindowTest::DestroyWindowAndCore()

@@ -61,6 +61,7 @@ private:
 class TracedView final : public ParamsView {
 public:
     ~TracedView() override { AddLine("view destroyed"); }
+    void Open() override { AddLine("view opened"); }
     void Refresh() override { AddLine("view refreshed"); }
 };
 
@@ -75,6 +76,7 @@ protected:
     HWND CreateWindowed(RenderingType type);
     void RecordDestruction();
     void RecordHotkey(); // nothing of it reaches the system
+    void RecordTray();   // nor of the icon; the program has no resources, so they are stood in for
 
     // The window ends first, as a host's does.
     void DestroyWindowAndCore();

@@ -9,10 +9,23 @@ namespace {
 
 constexpr UINT ClassStyle = CS_HREDRAW | CS_VREDRAW;
 
-Lines Concat(Lines first, const Lines& second)
+Lines Concat(std::initializer_list<Lines> parts)
 {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
+    Lines all;
+    for (const Lines& part : parts) {
+        all.insert(all.end(), part.begin(), part.end());
+    }
+    return all;
+}
+
+const Lines IconAndMenu = {"LoadImageW(module, #5, 1, 0, 0, 0)", "Shell_NotifyIconW(0, *)",
+                           "LoadMenuW(module, \"IDR_MENU_LUMORA_CORE_TASKTRAY\")"};
+
+// Those of a level and of a back-end.
+Lines Marks(int ofLevel, int ofType)
+{
+    return {"CheckMenuRadioItem(menu, 40010, 40014, " + std::to_string(ofLevel) + ", 0)",
+            "CheckMenuRadioItem(menu, 40020, 40022, " + std::to_string(ofType) + ", 0)"};
 }
 
 // The frame of the set-up, whose clear and present look the back-end up.
@@ -174,7 +187,7 @@ TEST_F(CreationTest, TheWindowIsLayeredAndLetsTheMouseThrough)
 void CreationTest::ExpectOrderForGDI(std::uint32_t level)
 {
     const std::string lookup = "log: Rendering type is DirectGDI.\n";
-    const Lines untilTheFrame = {
+    const Lines untilTheTray = {
         "log: zq::CallFunc::Create\n",
         "log: " + VersionLine(),
         "log: DirectCompositionImpl(Constructor)\n",
@@ -185,9 +198,13 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
         "CreateWindowExW(136, \"Lumora Window Class_00001\", \"Lumora DLL Window\", 0x90000000, 200, 60, "
         "640, 480, null, null, module, null)",
         "log: WM_CREATE ... ",
+    };
+    const Lines measured = {
         "GetDC(window 1)",
         "GetDeviceCaps(dc of window 1, 4)",
         "GetDeviceCaps(dc of window 1, 6)",
+    };
+    const Lines untilTheFrame = {
         "SetTimer(window 1, 12345, 50, null)",
         "log: done\n",
         "GetWindowLongW(window 1, -20)",
@@ -220,13 +237,15 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
     RecordHotkey(false);
     calls.RecordLog();
     library.Create();
-    EXPECT_EQ(calls.Take(), Concat(Concat(untilTheFrame, EmptyFrame(lookup)), afterTheFrame));
+    EXPECT_EQ(calls.Take(),
+              Concat({untilTheTray, IconAndMenu, measured, Marks(level == 3 ? 40013 : 40014, 40022),
+                      untilTheFrame, EmptyFrame(lookup), afterTheFrame}));
 }
 
 void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
 {
     const std::string lookup = "log: Rendering type is Direct Composition.\n";
-    const Lines untilTheFrame = {
+    const Lines untilTheTray = {
         "log: zq::CallFunc::Create\n",
         "log: " + VersionLine(),
         "log: DirectCompositionImpl(Constructor)\n",
@@ -237,9 +256,13 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
         "CreateWindowExW(0x200088, \"Lumora Window Class_00000\", \"Lumora DLL Window\", 0x90000000, 200, "
         "60, 640, 480, null, null, module, null)",
         "log: WM_CREATE ... ",
+    };
+    const Lines measured = {
         "GetDC(window 1)",
         "GetDeviceCaps(dc of window 1, 4)",
         "GetDeviceCaps(dc of window 1, 6)",
+    };
+    const Lines untilTheFrame = {
         "SetTimer(window 1, 12345, 50, null)",
         "log: done\n",
         "GetWindowLongW(window 1, -20)",
@@ -260,7 +283,9 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
     RecordHotkey(false);
     calls.RecordLog();
     library.Create();
-    EXPECT_EQ(calls.Take(), Concat(Concat(untilTheFrame, EmptyFrame(lookup)), afterTheFrame));
+    EXPECT_EQ(calls.Take(),
+              Concat({untilTheTray, IconAndMenu, measured, Marks(level == 3 ? 40013 : 40014, 40020),
+                      untilTheFrame, EmptyFrame(lookup), afterTheFrame}));
 }
 
 TEST_F(CreationTest, TheOrderOfCallsAndLinesForGDIAtLevel3) { ExpectOrderForGDI(3); }

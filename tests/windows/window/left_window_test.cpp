@@ -38,7 +38,8 @@ TEST_F(LeftWindowTest, ItsMessagesDoNotReachTheLivingInstance)
     library.SetDebugLevel(255);
     RecordInvalidations();
     debugger.Clear();
-    for (const UINT message : {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_PAINT}}) {
+    for (const UINT message :
+         {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_APP + 46}, UINT{WM_PAINT}}) {
         EXPECT_EQ(SendMessageW(left, message, ChooseDirect2D, 0), 0);
     }
     EXPECT_EQ(debugger.Texts(), Lines{});
@@ -81,7 +82,8 @@ TEST_F(LeftWindowTest, IsHarmlessAfterTheInstanceIsGone)
     library.SetDebugLevel(255);
     debugger.Clear();
     ASSERT_TRUE(IsWindow(left));
-    for (const UINT message : {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_SIZE}}) {
+    for (const UINT message :
+         {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_APP + 46}, UINT{WM_SIZE}}) {
         SendMessageW(left, message, ChooseDirect2D, 0);
     }
     InvalidateRect(left, nullptr, FALSE);

@@ -1,11 +1,16 @@
 // The common set-up of the overlay window's tests.
 #include "windows/window/window_test.h"
 
+#include <shellapi.h>
+
 namespace zq::LM::test {
 
 void WindowTest::RecordCreation()
 {
     calls.Record<"LoadImageW">("USER32.dll", LoadImageW);
+    calls.Record<"Shell_NotifyIconW">("SHELL32.dll", Shell_NotifyIconW);
+    calls.Record<"LoadMenuW">("USER32.dll", LoadMenuW);
+    calls.Record<"CheckMenuRadioItem">("USER32.dll", CheckMenuRadioItem);
     calls.Record<"RegisterClassExW">("USER32.dll", RegisterClassExW);
     calls.Record<"CreateWindowExW">("USER32.dll", CreateWindowExW);
     calls.Record<"GetDeviceCaps">("GDI32.dll", GetDeviceCaps);
