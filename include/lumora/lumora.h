@@ -61,8 +61,13 @@ LM_WindowHandle LM_GetWindowHandle(void);
  * memory runs out. */
 void LM_InputPenDataArray(const LM_PenData* samples, uint64_t count);
 
-/* Takes one brush-data message of `size` bytes. This version only notes the call in the log; the message
- * is neither read nor changed. */
+/* Applies one brush-data message, which changes ink colour, brush size or ink life: lumora/brush_data.h makes
+ * them. The new parameters show with the next repaint. A message of no known kind, and null, change nothing.
+ *
+ * The call reads the kind's name up to its end or its first wrong character and, of a known kind, the
+ * payload: 40 bytes at the most. It then zeroes the beginning of the message, so that it is not applied
+ * twice: as many bytes as the payload size in the message, plus the characters of the name, plus 5. The
+ * buffer must be that large and writable; `size` is not looked at. Does nothing without an instance. */
 void LM_SetData_from_App(void* message, uint64_t size);
 
 /* Sets how much the library writes to the debugger's output: 0 nothing, 1 basic, 2 normal, 3 detailed, 255

@@ -12,6 +12,7 @@
 #include "render/rendering_type.h"
 #include "render/screen_colour.h"
 #include "render/text_conversion.h"
+#include "settings/brush_data.h"
 
 #include <cstdio>
 
@@ -33,6 +34,7 @@ Core::Core(HMODULE module, unsigned creationValue)
     BindCallbacks_();
     CreateBackEnds_();
     tasktray = MakeOrNull<sc::WinGui::Tasktray>();
+    CreateBrushDataServer_();
 }
 
 // The order is fixed: later members may use earlier ones until they are gone. The window itself is not
@@ -49,6 +51,7 @@ Core::~Core()
     trayMenu.Destroy();
     window.UnregisterHotkey();
     window.StopTimer();
+    brushDataServer.reset();
     for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {
         backEnd.reset();
     }
@@ -94,6 +97,14 @@ void Core::CreateBackEnds_()
     backEnds.push_back(MakeOrNull<GDI>());
 }
 
+void Core::CreateBrushDataServer_()
+{
+    constexpr std::uint16_t Port = 44056;
+    if (useBrushDataServer) {
+        brushDataServer = MakeOrNull<BrushDataServer>(Port);
+    }
+}
+
 void Core::SetParams(const Params& source)
 {
     if (params == nullptr) {
@@ -108,6 +119,32 @@ void Core::GetEngineParams(Params* out)
 {
     if (drawing != nullptr) {
         drawing->GetCopiedParams(out);
+    }
+}
+
+void Core::SetBrushData(std::uint8_t* message)
+{
+    if (params == nullptr) {
+        return;
+    }
+    if (message != nullptr) {
+        DecodeBrushData(*params, message); // of whatever kind: what follows is the same
+    }
+    PassParams_();
+    RefreshView_();
+}
+
+// The same for what has come over the network, which is not trusted.
+void Core::TakeReceivedBrushData_()
+{
+    if (brushDataServer == nullptr || params == nullptr) {
+        return;
+    }
+    const std::vector<std::uint8_t> received = brushDataServer->TakeReceivedBytes();
+    if (!received.empty()) {
+        DecodeReceivedBrushData(*params, received); // of whatever kind
+        PassParams_();
+        RefreshView_();
     }
 }
 

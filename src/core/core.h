@@ -2,17 +2,20 @@
 // frames.
 #pragma once
 
+#include "core/brush_data_setting.h"
 #include "core/library_version.h"
 #include "ink/drawing.h"
 #include "render/drawing_lib.h"
 #include "render/memory_surface.h"
 #include "render/rendering_type.h"
+#include "settings/brush_data_server.h"
 #include "settings/params_view.h"
 #include "ui/overlay_window.h"
 #include "ui/tasktray.h"
 #include "ui/tray_menu.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -42,6 +45,10 @@ public:
     void SetParams(const Params& source);
     void GetEngineParams(Params* out);
 
+    // One brush-data message, applied to the record and wiped; the record is passed on and shown in any case.
+    // Null is no message.
+    void SetBrushData(std::uint8_t* message);
+
     // Null is ignored. A count of 0 applies the parameters and repaints.
     void InputPenData(const PenData* samples, std::size_t count);
 
@@ -66,6 +73,7 @@ public:
     const PenData& LastPenData() const { return lastPenData; }
     const FileVersion& Version() const { return fileVersion; }
     const OverlayWindow& Overlay() const { return window; }
+    const BrushDataServer* Server() const { return brushDataServer.get(); } // null unless the setting is on
 
 private:
     void OnCreated() override;
@@ -78,6 +86,7 @@ private:
     void CreateDrawing_();
     void BindCallbacks_();
     void CreateBackEnds_();
+    void CreateBrushDataServer_();
 
     void SetUpWindow_();
     void SetUpMemorySurface_();
@@ -92,6 +101,7 @@ private:
     void ChooseBackEnd_(RenderingType type, const wchar_t* line);
     void MarkMenu_() const;
 
+    void TakeReceivedBrushData_();
     void PassParams_();
     void RefreshView_();
     void ShowPickedColourOnce_();
@@ -103,6 +113,8 @@ private:
     unsigned creationValue;
     HMODULE module;
     OverlayWindow window;
+    bool useBrushDataServer = IsBrushDataServerWanted();
+    std::unique_ptr<BrushDataServer> brushDataServer;
     std::vector<PenData> sampleReserve; // memory kept at hand; holds nothing
     PenData lastPenData{};              // the last sample of the most recent input
     BackEnds backEnds;

@@ -149,6 +149,7 @@ void Core::PaintFromMemory_()
 // Repaints during drawing come from pen input; a tick only wipes the last ink.
 void Core::OnTick()
 {
+    TakeReceivedBrushData_();
     if (drawing == nullptr) {
         return;
     }

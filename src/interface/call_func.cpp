@@ -68,7 +68,14 @@ void InputPenDataArray(const LM_PenData* samples, std::uint64_t count)
     LM::InputPenData(samples, static_cast<std::size_t>(count));
 }
 
-void SetData_from_App(void*, std::uint64_t) { LM::Log(LM::BASIC, L"zq::CallFunc::SetData_from_App\n"); }
+// The size is not looked at: the message tells its own.
+void SetData_from_App(void* message, std::uint64_t)
+{
+    LM::Log(LM::BASIC, L"zq::CallFunc::SetData_from_App\n");
+    if (LM::Core* core = LM::CurrentCore()) {
+        core->SetBrushData(static_cast<std::uint8_t*>(message));
+    }
+}
 
 void SetDebugLevel(std::uint32_t level)
 {

@@ -1,5 +1,6 @@
 // The library when memory runs out: what the host hears of it, and that nothing is broken or lost afterwards.
 #include "core/core.h"
+#include "lumora/brush_data.h"
 #include "support/memory_stand_in.h"
 #include "support/object_counts.h"
 #include "windows/interface/working_overlay.h"
@@ -186,6 +187,9 @@ TEST_F(AllocationFailure, OfTheRecordLeavesAnInstanceThatKeepsTheDefaults)
     test::PumpMessages();
     const LM_Params params = RedInk();
     SetParams(params); // has no record to go into
+    lumora::BrushDataMessage message = lumora::MakeInkDecayTime(Life);
+    library.SetData_from_App(message.data(), message.size());
+    EXPECT_EQ(message, lumora::MakeInkDecayTime(Life));
     EXPECT_EQ(Params().inkDecayTime, 100U);
     EXPECT_EQ(Params().inkColor, 0x00202020U);
     InputAndPaint({Sample(300, 240), Sample(340, 240)});

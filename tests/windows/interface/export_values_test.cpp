@@ -217,7 +217,7 @@ TEST_F(Exports, GetWindowHandleGivesWhatCreateGave)
     EXPECT_EQ(GetWindowThreadProcessId(window, nullptr), GetCurrentThreadId());
 }
 
-TEST_F(Exports, SetDataFromAppLeavesMessageAndRecordAlone)
+TEST_F(Exports, SetDataFromAppOfNoKindLeavesMessageAndRecordAlone)
 {
     library.Create();
     const std::vector<unsigned char> before(300, 0xC3);
