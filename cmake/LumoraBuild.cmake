@@ -40,8 +40,11 @@ if(LUMORA_SANITIZER STREQUAL "address")
 elseif(LUMORA_SANITIZER STREQUAL "thread")
   add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
   add_link_options(-fsanitize=thread)
+elseif(LUMORA_SANITIZER STREQUAL "fuzzer")
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
 elseif(LUMORA_SANITIZER)
-  message(FATAL_ERROR "LUMORA_SANITIZER is \"${LUMORA_SANITIZER}\"; it may be empty, address or thread.")
+  message(FATAL_ERROR "LUMORA_SANITIZER is \"${LUMORA_SANITIZER}\"; it may be empty, address, thread or fuzzer.")
 endif()
 
 # Warnings are errors in our own code; what comes from elsewhere is compiled as it is.
