@@ -15,6 +15,7 @@ namespace {
 DWORD g_testThread = 0;
 std::atomic<unsigned> g_accepts{0};
 std::atomic<unsigned> g_receives{0};
+std::atomic<unsigned> g_closes{0};
 std::atomic<SOCKET> g_listener{INVALID_SOCKET};
 std::mutex g_closedMutex;
 std::vector<SOCKET> g_closed;
@@ -45,9 +46,10 @@ int WSAAPI CountReceive(SOCKET client, char* bytes, int count, int flags)
 int WSAAPI NoteClose(SOCKET closed)
 {
     if (IsWorker()) {
-        const std::lock_guard lock(g_closedMutex);
-        g_closed.push_back(closed);
+        ++g_closes;
     }
+    const std::lock_guard lock(g_closedMutex);
+    g_closed.push_back(closed);
     return g_close(closed);
 }
 
@@ -74,6 +76,7 @@ WorkerCalls::WorkerCalls()
     g_testThread = GetCurrentThreadId();
     g_accepts = 0;
     g_receives = 0;
+    g_closes = 0;
     g_closed.clear();
     g_accept = reinterpret_cast<decltype(::accept)*>(accept.Original());
     g_receive = reinterpret_cast<decltype(::recv)*>(receive.Original());
@@ -82,6 +85,7 @@ WorkerCalls::WorkerCalls()
 
 unsigned WorkerCalls::Accepts() const { return g_accepts; }
 unsigned WorkerCalls::Receives() const { return g_receives; }
+unsigned WorkerCalls::Closes() const { return g_closes; }
 void WorkerCalls::WaitForAccepts(unsigned count) const { WaitFor(g_accepts, count, "accepts"); }
 void WorkerCalls::WaitForReceives(unsigned count) const { WaitFor(g_receives, count, "receives"); }
 SOCKET WorkerCalls::Listener() const { return g_listener; }

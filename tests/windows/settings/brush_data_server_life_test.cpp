@@ -105,6 +105,16 @@ TEST_F(BrushDataServerLife, EndsWhileAClientWaitsBehindAnother)
     EXPECT_FALSE(test::IsAnswered(port));
 }
 
+TEST_F(BrushDataServerLife, NeverClosesItsListenerByHand)
+{
+    auto server = std::make_unique<BrushDataServer>(port);
+    worker.WaitForAccepts(1);
+    const SOCKET listener = worker.Listener();
+    server.reset();
+    EXPECT_NE(listener, INVALID_SOCKET);
+    EXPECT_THAT(worker.Closed(), ::testing::Not(::testing::Contains(listener)));
+}
+
 TEST_F(BrushDataServerLife, GivesItsPortToTheNextServer)
 {
     for (int i = 0; i < 3; ++i) {
