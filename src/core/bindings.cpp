@@ -2,6 +2,7 @@
 #include "core/bindings.h"
 
 #include "core/core.h"
+#include "interface/debug_log.h"
 #include "platform/win32/gdi_owners.h"
 #include "render/drawing_lib.h"
 #include "render/key_fill.h"
@@ -85,6 +86,9 @@ void ClearCallback()
 void PresentCallback()
 {
     if (DrawingLib* backEnd = WindowedBackEnd()) {
+        if (GetDebugLevel() != NONE) {
+            LivingCore()->DrawInformation(*backEnd);
+        }
         backEnd->Present();
     }
 }

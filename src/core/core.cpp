@@ -3,7 +3,6 @@
 
 #include "core/bindings.h"
 #include "core/make_or_null.h"
-#include "ink/truncation.h"
 #include "interface/debug_log.h"
 #include "render/d2d.h"
 #include "render/direct_composition.h"
@@ -203,10 +202,8 @@ unsigned Core::PickScreenColour(bool clearFlag)
 
 void Core::DrawText(int x, int y, unsigned colour, const char* text)
 {
-    const WideText wide = ConvertToWide(text);
     if (DrawingLib* backEnd = ActiveBackEnd()) {
-        backEnd->DrawText(wide.data(), TruncateToSigned(x * renderScale), TruncateToSigned(y * renderScale),
-                          colour);
+        DrawNarrowText(*backEnd, renderScale, x, y, colour, text);
     }
 }
 

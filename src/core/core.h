@@ -62,6 +62,7 @@ public:
     DrawingLib* ActiveBackEnd(); // null where a back-end does not exist
     unsigned PickScreenColour(bool clearFlag);
     void DrawText(int x, int y, unsigned colour, const char* text);
+    void DrawInformation(DrawingLib& backEnd);
 
     // The index is the RenderingType.
     BackEnds& AllBackEnds() { return backEnds; }

@@ -50,7 +50,10 @@ public:
     }
     void Resize(HWND) override { Add_("Resize"); }
     void SetMemoryDC(HDC dc) override { Add_("SetMemoryDC", dc != nullptr ? "dc" : "null"); }
-    void FillRect(int, int, int, int, unsigned) override { Add_("FillRect"); }
+    void FillRect(int left, int top, int right, int bottom, unsigned colour) override
+    {
+        Add_("FillRect", left, top, right, bottom, colour);
+    }
 
     const std::vector<PenData>* lastSamples = nullptr;
 

@@ -141,11 +141,17 @@ TEST_F(FramesTest, PresentTakesASuccessOtherThanOKForAFailure)
 
 TEST_F(FramesTest, PresentThatFailsRecreatesNothing)
 {
-    library.SetDebugLevel(NormalLevel);
     composition.Answer("SwapChain.Present", DXGI_ERROR_DEVICE_REMOVED);
     EXPECT_EQ(Frame(),
               (Lines{"DeviceContext#1.BeginDraw()", "DeviceContext#1.Clear(null)",
                      "DeviceContext#1.EndDraw(null, null) = 0", "SwapChain#1.Present(0, 0) = 0x887a0005"}));
+}
+
+TEST_F(FramesTest, PresentThatFailsWithADeviceLostSaysThatItFailed)
+{
+    library.SetDebugLevel(NormalLevel);
+    composition.Answer("SwapChain.Present", DXGI_ERROR_DEVICE_REMOVED);
+    Frame();
     EXPECT_EQ(LinesLike("Exception is thrown!\n"), 1U);
     EXPECT_EQ(LinesLike("Device-Lost occured.\n"), 0U);
 }

@@ -1,5 +1,6 @@
 // The library built with its debug switch on: it logs from the start and leaves its user interface alone.
 #include "support/overlay_test.h"
+#include "support/system_calls.h"
 #include "support/watched_call.h"
 
 namespace zq::LM {
@@ -13,6 +14,7 @@ using Lines = std::vector<LogLine>;
 class DebugSwitch : public OverlayTest {
 protected:
     WatchedCall<decltype(RegisterHotKey)> hotkeys{library.Module(), "USER32.dll", "RegisterHotKey"};
+    LM_PenData nothing{};
 };
 
 TEST_F(DebugSwitch, LogsAtLevelOneFromTheStart)
@@ -41,6 +43,20 @@ TEST_F(DebugSwitch, CreatesNoUserInterfaceByItself)
 {
     EXPECT_NE(library.Create(), nullptr);
     EXPECT_EQ(hotkeys.Count(), 0U);
+}
+
+TEST_F(DebugSwitch, MarksTheInformationOverlayAndMovesItsLinesDown)
+{
+    CreateWithGDI();
+    test::SystemCalls calls{library.Module()};
+    calls.Record<"SetTextColor">("GDI32.dll", SetTextColor);
+    calls.Record<"TextOutW">("GDI32.dll", TextOutW);
+    library.InputPenDataArray(&nothing, 0);
+    Paint();
+    EXPECT_THAT(calls.Take(),
+                testing::IsSupersetOf({"SetTextColor(*, 255)", "TextOutW(*, 310, 32, \"(DEBUG_)\", 8)",
+                                       "TextOutW(*, 310, 56, \"DLL Menu : Ctrl + Alt + Shirt + S\", 33)",
+                                       "TextOutW(*, 310, 224, \"Pressure =     0\", 16)"}));
 }
 
 TEST_F(DebugSwitch, LetsNoLevelTurnTheUserInterfaceOn)

@@ -29,9 +29,15 @@ Lines Marks(int ofLevel, int ofType)
 }
 
 // The frame of the set-up, whose clear and present look the back-end up.
-Lines EmptyFrame(const std::string& lookup)
+// The frame's information needs the pen's rate, whose lock is a line of the level ALL alone.
+Lines EmptyFrame(const std::string& lookup, std::uint32_t level)
 {
-    return {"log: \tMovePenData_ is locked.\n", "log: \tMovePenData_ is unlocked.\n", lookup, lookup};
+    Lines lines = {"log: \tMovePenData_ is locked.\n", "log: \tMovePenData_ is unlocked.\n", lookup, lookup};
+    if (level == 255) {
+        lines.insert(lines.end(),
+                     {"log: \tPenReoprtRate is locked.\n", "log: \tPenReoprtRate is unlocked.\n"});
+    }
+    return lines;
 }
 
 std::wstring g_refusedClass;
@@ -239,7 +245,7 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
     library.Create();
     EXPECT_EQ(calls.Take(),
               Concat({untilTheTray, IconAndMenu, measured, Marks(level == 3 ? 40013 : 40014, 40022),
-                      untilTheFrame, EmptyFrame(lookup), afterTheFrame}));
+                      untilTheFrame, EmptyFrame(lookup, level), afterTheFrame}));
 }
 
 void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
@@ -285,7 +291,7 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
     library.Create();
     EXPECT_EQ(calls.Take(),
               Concat({untilTheTray, IconAndMenu, measured, Marks(level == 3 ? 40013 : 40014, 40020),
-                      untilTheFrame, EmptyFrame(lookup), afterTheFrame}));
+                      untilTheFrame, EmptyFrame(lookup, level), afterTheFrame}));
 }
 
 TEST_F(CreationTest, TheOrderOfCallsAndLinesForGDIAtLevel3) { ExpectOrderForGDI(3); }

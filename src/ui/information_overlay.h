@@ -1,0 +1,50 @@
+// The information overlay: what a frame tells about itself for diagnosis, in its upper right corner.
+#pragma once
+
+#include "ink/pen_data.h"
+#include "platform/win32/windows_header.h"
+#include "render/drawing_lib.h"
+#include "render/rendering_type.h"
+
+#include <array>
+#include <cstdint>
+
+namespace zq::LM {
+
+struct InformationFacts {
+    int screenWidth = 0;           // of the overlay, whose right edge everything is placed by
+    std::uint32_t drawingRate = 0; // frames a second
+    std::uint32_t penRate = 0;     // samples a second
+    std::array<std::uint16_t, 4> version{};
+    RenderingType renderingType = RenderingType::DirectComposition;
+    RECT shell{};
+    PenData lastPenData{};
+    unsigned port = 0;            // of the brush-data server; 0 without one
+    std::uint32_t textColour = 0; // index of the colour; beyond the last it is the last
+    bool debugSwitch = false;
+};
+
+// Draws into a frame that is open. Only a back-end that fills rectangles shows the bars.
+class InformationOverlay {
+public:
+    // Texts are placed on the scaled bitmap, bars are not.
+    InformationOverlay(DrawingLib& backEnd, double renderScale, const InformationFacts& facts)
+        : backEnd(backEnd), renderScale(renderScale), facts(facts)
+    {
+    }
+
+    void Draw() const;
+
+private:
+    struct Bar;
+
+    void DrawBar_(const Bar& bar, std::uint32_t rate) const;
+    void DrawLines_() const;
+    void DrawText_(int x, int y, unsigned colour, const char* text) const;
+
+    DrawingLib& backEnd;
+    double renderScale;
+    const InformationFacts& facts;
+};
+
+} // namespace zq::LM
