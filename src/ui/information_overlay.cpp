@@ -14,8 +14,8 @@ namespace zq::LM {
 namespace {
 
 constexpr int PanelWidth = 360;
-constexpr std::string_view MenuLine =
-    "DLL Menu : Ctrl + Alt + Shirt + S"; // so it reads, although the key is W
+// Fixed wording, although the key is W.
+constexpr std::string_view MenuLine = "DLL Menu : Ctrl + Alt + Shirt + S";
 
 char g_line[4096]; // only the overlay's thread formats
 
@@ -32,7 +32,7 @@ const char* NameOf(RenderingType type)
     return "???";
 }
 
-// A bar is as wide as the panel at 300 a second, and is not stopped there. Wraps at 32 bits.
+// A bar fills the panel at 300 a second and is not stopped there; the arithmetic wraps at 32 bits.
 int BarEnd(int left, std::uint32_t rate)
 {
     constexpr std::uint32_t FullRate = 300;
@@ -62,7 +62,7 @@ void InformationOverlay::Draw() const
     constexpr int PanelBottom = 444;
     constexpr unsigned PanelColour = 0x447F7F7F;
     constexpr Bar PenBar = {336, 360, 0x7FFF33FF, 288, 0xFFFF33FF, "Pen Report Rate (Max 300 Hz)"};
-    // The label's wording is the overlay's own; its bar is full at 300 like the other.
+    // Fixed wording: this bar, too, is full at 300.
     constexpr Bar DrawingBar = {400, 424, 0x7F00FF00, 352, 0xFF00FF00, "Reflesh Rate ( Max 120 Hz)"};
 
     backEnd.FillRect(facts.screenWidth - PanelWidth, PanelTop, facts.screenWidth, PanelBottom, PanelColour);

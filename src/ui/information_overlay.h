@@ -20,7 +20,7 @@ struct InformationFacts {
     RECT shell{};
     PenData lastPenData{};
     unsigned port = 0;            // of the brush-data server; 0 without one
-    std::uint32_t textColour = 0; // index of the colour; beyond the last it is the last
+    std::uint32_t textColour = 0; // index of the lines' colour; any beyond the last gives the last
     bool debugSwitch = false;
 };
 
