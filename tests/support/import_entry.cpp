@@ -21,6 +21,17 @@ const IMAGE_IMPORT_DESCRIPTOR* FirstImportedDll(HMODULE module)
     return At<const IMAGE_IMPORT_DESCRIPTOR>(module, directory.VirtualAddress);
 }
 
+// Visual Studio's import library has some functions by number, Winsock's among them.
+bool Names(HMODULE module, const IMAGE_THUNK_DATA& import, const char* dll, const char* function)
+{
+    if (IMAGE_SNAP_BY_ORDINAL(import.u1.Ordinal)) {
+        HMODULE exporter = GetModuleHandleA(dll);
+        const auto* number = reinterpret_cast<const char*>(IMAGE_ORDINAL(import.u1.Ordinal));
+        return GetProcAddress(exporter, number) == GetProcAddress(exporter, function);
+    }
+    return std::strcmp(At<const IMAGE_IMPORT_BY_NAME>(module, import.u1.AddressOfData)->Name, function) == 0;
+}
+
 } // namespace
 
 void** FindImportEntry(HMODULE module, const char* dll, const char* function)
@@ -32,9 +43,7 @@ void** FindImportEntry(HMODULE module, const char* dll, const char* function)
         const auto* name = At<const IMAGE_THUNK_DATA>(module, imported->OriginalFirstThunk);
         auto* entry = At<void*>(module, imported->FirstThunk);
         for (; name->u1.AddressOfData != 0; ++name, ++entry) {
-            if (!IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal) &&
-                std::strcmp(At<const IMAGE_IMPORT_BY_NAME>(module, name->u1.AddressOfData)->Name, function) ==
-                    0) {
+            if (Names(module, *name, dll, function)) {
                 return entry;
             }
         }
