@@ -90,6 +90,7 @@ private:
     void CreateBrushDataServer_();
 
     void SetUpWindow_();
+    void CreateSettingsDialog_();
     void SetUpMemorySurface_();
     void SetMemoryDCEverywhere_(HDC dc);
     void ClearWindowIfMemoryDrawn_();
@@ -119,7 +120,7 @@ private:
     std::vector<PenData> sampleReserve; // memory kept at hand; holds nothing
     PenData lastPenData{};              // the last sample of the most recent input
     BackEnds backEnds;
-    std::unique_ptr<ParamsView> paramsView; // null until there is a settings dialog
+    std::unique_ptr<ParamsView> paramsView; // the settings dialog; null until the window exists
     TrayMenu trayMenu;
     std::unique_ptr<sc::WinGui::Tasktray> tasktray;
     FileVersion fileVersion;

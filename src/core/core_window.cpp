@@ -1,12 +1,14 @@
 // The Core's side of the overlay window: set-up, painting and ticks.
 #include "core/bindings.h"
 #include "core/core.h"
+#include "core/make_or_null.h"
 #include "interface/debug_log.h"
 #include "platform/win32/gdi_owners.h"
 #include "render/key_fill.h"
 #include "render/line_rules.h"
 #include "render/rendering_type.h"
 #include "render/shell_window.h"
+#include "settings/settings_dialog.h"
 #include "ui/user_interface_switch.h"
 
 namespace zq::LM {
@@ -62,9 +64,19 @@ void Core::SetUpWindow_()
     }
     DrawFrame_();
     ClearWindowIfMemoryDrawn_();
+    CreateSettingsDialog_();
     if (g_userInterfaceSwitch) {
         window.RegisterHotkey();
     }
+}
+
+void Core::CreateSettingsDialog_()
+{
+    auto dialog = MakeOrNull<SettingsDialog>(Window(), module);
+    if (dialog != nullptr) {
+        dialog->SetRecord(params.get());
+    }
+    paramsView = std::move(dialog);
 }
 
 void Core::SetUpMemorySurface_()

@@ -68,10 +68,10 @@ TEST_F(LibraryFile, ImportsFromWindowsOwnLibrariesOnly)
 {
     const std::set<std::string> windowsLibraries = {
         "ADVAPI32.DLL", // random numbers for the compiler's stack guard
-        "COMDLG32.DLL", "D2D1.DLL",   "D3D11.DLL",   "DCOMP.DLL",    "DWRITE.DLL",
-        "DXGI.DLL",     "GDI32.DLL",  "GDIPLUS.DLL", "KERNEL32.DLL",
+        "COMCTL32.DLL", "COMDLG32.DLL", "D2D1.DLL",    "D3D11.DLL",   "DCOMP.DLL",
+        "DWRITE.DLL",   "DXGI.DLL",     "GDI32.DLL",   "GDIPLUS.DLL", "KERNEL32.DLL",
         "MSVCRT.DLL", // the C runtime that comes with Windows
-        "SHELL32.DLL",  "USER32.DLL", "VERSION.DLL", "WINMM.DLL",    "WS2_32.DLL",
+        "SHELL32.DLL",  "USER32.DLL",   "VERSION.DLL", "WINMM.DLL",   "WS2_32.DLL",
     };
     EXPECT_THAT(ImportedLibraries(), IsSubsetOf(windowsLibraries));
     EXPECT_THAT(ImportedLibraries(), Contains("USER32.DLL"));
