@@ -1,0 +1,401 @@
+// Choosing a colour in the settings dialog: by the wheel, by the value bar and from the screen.
+#include "windows/settings/settings_dialog_test.h"
+
+#include "settings/colour_geometry.h"
+#include "settings/colour_images.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace zq::LM::test {
+namespace {
+
+struct ShownHsv {
+    int hue;
+    int saturation;
+    int value;
+};
+
+class SettingsPicker : public SettingsDialogTest {
+protected:
+    void Press(POINT at) const
+    {
+        cursor.Set(at);
+        SendMessageW(Dialog(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    }
+    void MoveTo(POINT at) const
+    {
+        cursor.Set(at);
+        SendMessageW(Dialog(), WM_MOUSEMOVE, MK_LBUTTON, 0);
+    }
+    void LetGo() const { SendMessageW(Dialog(), WM_LBUTTONUP, 0, 0); }
+
+    void OpenWithColour(COLORREF colour)
+    {
+        LM_Params params = Params();
+        params.inkColor = colour;
+        SetParams(params);
+        Open();
+    }
+
+    ShownHsv Shown() const
+    {
+        ShownHsv shown{};
+        EXPECT_EQ(
+            std::sscanf(Text(EditHsv).c_str(), "(%d, %d, %d)", &shown.hue, &shown.saturation, &shown.value),
+            3);
+        return shown;
+    }
+
+    int WheelRadius() const
+    {
+        const SIZE size = Size(WheelArea);
+        return WheelIn(size.cx, size.cy).radius;
+    }
+
+    CursorStandIn cursor{library.Module()};
+};
+
+// The state snaps to what the stored colour gives back, which may be a degree or a step beside.
+void ExpectNear(int shown, int wanted) { EXPECT_LE(std::abs(shown - wanted), 1) << shown << ", " << wanted; }
+
+TEST_F(SettingsPicker, StraightBelowTheCentreIsHue90AndStraightAbove270)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press(FromMiddle(WheelArea, 0, 40));
+    ExpectNear(Shown().hue, 90);
+    MoveTo(FromMiddle(WheelArea, 0, -40));
+    ExpectNear(Shown().hue, 270);
+    MoveTo(FromMiddle(WheelArea, 40, 0));
+    ExpectNear(Shown().hue, 0);
+    MoveTo(FromMiddle(WheelArea, -40, 0));
+    ExpectNear(Shown().hue, 180);
+    ExpectNear(Shown().saturation, 40 * 255 / WheelRadius());
+    EXPECT_EQ(Shown().value, 255);
+}
+
+TEST_F(SettingsPicker, TheStoredColourIsTheRoundedOne)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press(FromMiddle(WheelArea, 0, 40));
+    const SIZE size = Size(WheelArea);
+    const WheelPlace wheel = WheelIn(size.cx, size.cy);
+    const Hsv chosen = ColourAtWheelPoint({wheel.centre.x, wheel.centre.y + 40}, wheel, 255);
+    EXPECT_EQ(chosen.hue, 90);
+    EXPECT_EQ(Record().inkColor, RoundedReference(RgbFromHsv(chosen)));
+}
+
+TEST_F(SettingsPicker, OutsideTheCircleTheSaturationIsFull)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press(OnScreen(WheelArea, 0, 0)); // the control's corner still belongs to it
+    EXPECT_EQ(Shown().saturation, 255);
+    const SIZE size = Size(WheelArea);
+    Press(OnScreen(WheelArea, size.cx - 1, size.cy - 1));
+    EXPECT_EQ(Shown().saturation, 255);
+}
+
+TEST_F(SettingsPicker, RightAndBottomOfTheWheelDoNotBelongToIt)
+{
+    OpenWithColour(0x00808080);
+    const SIZE size = Size(WheelArea);
+    Press(OnScreen(WheelArea, size.cx, 10));
+    Press(OnScreen(WheelArea, 10, size.cy));
+    Press(OnScreen(WheelArea, -1, 10));
+    EXPECT_EQ(Record().inkColor, 0x00808080U);
+}
+
+TEST_F(SettingsPicker, TheValueBarEndsInBlackAndFull)
+{
+    OpenWithColour(0x000000FF);
+    const SIZE size = Size(ValueBarArea);
+    Press(OnScreen(ValueBarArea, size.cx - 1, 3)); // right of the gradient
+    EXPECT_EQ(Record().inkColor, 0x000000FFU);
+    MoveTo(OnScreen(ValueBarArea, 2, 3)); // left of it
+    EXPECT_EQ(Record().inkColor, 0U);
+    EXPECT_EQ(Shown().value, 0);
+}
+
+TEST_F(SettingsPicker, TheValueBarLeavesHueAndSaturation)
+{
+    OpenWithColour(0x00FF0000);
+    const SIZE size = Size(ValueBarArea);
+    Press(OnScreen(ValueBarArea, 16 + (size.cx - 32) / 2, 3));
+    EXPECT_EQ(Shown().hue, 240);
+    EXPECT_EQ(Shown().saturation, 255);
+    ExpectNear(Shown().value, 127);
+}
+
+TEST_F(SettingsPicker, BlackLeavesTheWheelsMarkerWhereItIs)
+{
+    OpenWithColour(0x0000FF00);
+    const Picture before = Seen(WheelArea);
+    Press(OnScreen(ValueBarArea, 0, 0));
+    EXPECT_EQ(Record().inkColor, 0U);
+    EXPECT_EQ(Shown().hue, 120);
+    EXPECT_EQ(Shown().saturation, 255);
+    EXPECT_EQ(Seen(WheelArea).Differences(before), 0U);
+    MoveTo(OnScreen(ValueBarArea, Size(ValueBarArea).cx - 1, 0)); // and back to full green
+    EXPECT_EQ(Record().inkColor, 0x0000FF00U);
+}
+
+TEST_F(SettingsPicker, BesideBothControlsNothingHappens)
+{
+    OpenWithColour(0x00123456);
+    Press(OnScreen(SwatchArea, 3, 3));
+    MoveTo({0, 0});
+    EXPECT_EQ(Record().inkColor, 0x00123456U);
+}
+
+TEST_F(SettingsPicker, MovesCountOnlyWhileTheButtonIsDown)
+{
+    OpenWithColour(0x00FFFFFF);
+    MoveTo(FromMiddle(WheelArea, 30, 0));
+    EXPECT_EQ(Record().inkColor, 0x00FFFFFFU);
+    Press({0, 0}); // anywhere
+    MoveTo(FromMiddle(WheelArea, 30, 0));
+    const std::uint32_t dragged = Record().inkColor;
+    EXPECT_NE(dragged, 0x00FFFFFFU);
+    LetGo();
+    MoveTo(FromMiddle(WheelArea, -30, 0));
+    EXPECT_EQ(Record().inkColor, dragged);
+}
+
+TEST_F(SettingsPicker, APenOnTheWheelCountsToo)
+{
+    OpenWithColour(0x00FFFFFF);
+    cursor.Set(FromMiddle(WheelArea, 0, 500)); // nowhere
+    SendMessageW(Dialog(), WM_POINTERDOWN, 0, 0);
+    MoveTo(FromMiddle(WheelArea, 0, 40));
+    ExpectNear(Shown().hue, 90);
+}
+
+TEST_F(SettingsPicker, TheSwatchIsAsTheRecord)
+{
+    OpenWithColour(0x00804020);
+    const SIZE size = Size(SwatchArea);
+    EXPECT_EQ(Seen(SwatchArea).Count(0x00804020), static_cast<std::size_t>(size.cx * size.cy));
+    LM_Params params = Params();
+    params.inkColor = 0x00112233;
+    SetParams(params);
+    EXPECT_EQ(Seen(SwatchArea).Count(0x00112233), static_cast<std::size_t>(size.cx * size.cy));
+}
+
+// What is on the screen where no marker lies.
+class PicturesOnTheScreen : public SettingsPicker {
+protected:
+    template <typename Paint> void ExpectPicture(int id, const Paint& paint, POINT marker, int reach)
+    {
+        const SIZE size = Size(id);
+        std::vector<std::uint8_t> bytes(RowBytes(size.cx) * static_cast<std::size_t>(size.cy));
+        paint(BitmapPixels{bytes, size.cx, size.cy});
+        const Picture seen = Seen(id);
+        const POINT corner = OnScreen(id, 0, 0);
+        int wrong = 0;
+        for (int y = 0; y < size.cy; ++y) {
+            for (int x = 0; x < size.cx; ++x) {
+                const std::uint8_t* pixel = bytes.data() +
+                                            static_cast<std::size_t>(size.cy - 1 - y) * RowBytes(size.cx) +
+                                            3 * static_cast<std::size_t>(x);
+                const bool nearMarker = std::max(std::abs(x - marker.x), std::abs(y - marker.y)) <= reach;
+                const COLORREF colour = seen.At(corner.x + x, corner.y + y);
+                wrong += !nearMarker && colour != RGB(pixel[2], pixel[1], pixel[0]) ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(wrong, 0) << id;
+    }
+
+    void ExpectBoth()
+    {
+        const Hsv colour = HsvFromRgb(RgbFromReference(Record().inkColor));
+        const SIZE wheel = Size(WheelArea);
+        const PixelPoint disc = WheelMarker(colour, WheelIn(wheel.cx, wheel.cy));
+        ExpectPicture(WheelArea, PaintWheel, {disc.x, disc.y}, 11);
+        const SIZE bar = Size(ValueBarArea);
+        ExpectPicture(ValueBarArea, PaintValueBar, {ValueMarkerColumn(colour.value, bar.cx), 0},
+                      bar.cy / 2 + 4);
+    }
+};
+
+TEST_F(PicturesOnTheScreen, AreSeenAfterOpening)
+{
+    OpenWithColour(0x00804020);
+    ExpectBoth();
+}
+
+TEST_F(PicturesOnTheScreen, AreSeenAfterEachOfTheHostsColours)
+{
+    OpenWithColour(0x00804020);
+    for (const COLORREF colour : {0x000000FFU, 0x0000C000U, 0x00FFFFFFU, 0x00010203U}) {
+        LM_Params params = Params();
+        params.inkColor = colour;
+        SetParams(params);
+        ExpectBoth();
+    }
+}
+
+TEST_F(PicturesOnTheScreen, AreSeenAfterADrag)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press(FromMiddle(WheelArea, 10, 10));
+    for (int step = 0; step < 20; ++step) {
+        MoveTo(FromMiddle(WheelArea, 10 - 2 * step, 10 + step));
+    }
+    ExpectBoth();
+}
+
+TEST_F(PicturesOnTheScreen, AreSeenAgainAfterTheDialogWasCovered)
+{
+    OpenWithColour(0x00804020);
+    RECT place{};
+    GetWindowRect(Dialog(), &place);
+    {
+        const Backdrop cover(place, 0x00FF0000);
+        SetWindowPos(cover.Window(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        SettleScreen();
+    }
+    SettleScreen();
+    ExpectBoth();
+}
+
+TEST_F(PicturesOnTheScreen, AreSeenAgainAfterOneWasCovered)
+{
+    OpenWithColour(0x00804020);
+    for (const int id : {WheelArea, ValueBarArea}) {
+        RECT place{};
+        GetWindowRect(Control(id), &place);
+        {
+            const Backdrop cover(place, 0x00FF0000);
+            SetWindowPos(cover.Window(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            SettleScreen();
+        }
+        SettleScreen();
+        ExpectBoth();
+    }
+}
+
+// With the system's own mouse and screen.
+class SettingsByMouse : public SettingsDialogTest {
+protected:
+    static void Button(DWORD flag)
+    {
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dwFlags = flag;
+        SendInput(1, &input, sizeof(input));
+    }
+
+    static void ClickAt(POINT point)
+    {
+        SetCursorPos(point.x, point.y);
+        Button(MOUSEEVENTF_LEFTDOWN);
+        Button(MOUSEEVENTF_LEFTUP);
+    }
+};
+
+TEST_F(SettingsByMouse, DragsOnTheWheel)
+{
+    Open();
+    const auto colour = [this] { return Record().inkColor; };
+    const POINT middle = FromMiddle(WheelArea, 0, 0);
+    SetCursorPos(middle.x, middle.y + 30);
+    Button(MOUSEEVENTF_LEFTDOWN);
+    ASSERT_TRUE(PumpUntil([&] { return colour() != 0x00202020; }));
+    const std::uint32_t pressed = colour();
+    SetCursorPos(middle.x - 30, middle.y);
+    EXPECT_TRUE(PumpUntil([&] { return colour() != pressed; }));
+    Button(MOUSEEVENTF_LEFTUP);
+    const Hsv shown = HsvFromRgb(RgbFromReference(colour()));
+    EXPECT_NEAR(shown.hue, 180, 8); // a dark colour has few shades
+    EXPECT_EQ(shown.value, 32);
+}
+
+TEST_F(SettingsByMouse, ClicksOnTheValueBar)
+{
+    Open();
+    ClickAt(OnScreen(ValueBarArea, Size(ValueBarArea).cx - 3, 5));
+    EXPECT_TRUE(PumpUntil([this] { return Record().inkColor == 0x00FFFFFF; }));
+}
+
+TEST_F(SettingsByMouse, ClicksOnACheckBox)
+{
+    Open();
+    ClickAt(FromMiddle(CheckOutline, 0, 0));
+    EXPECT_TRUE(PumpUntil([this] { return Record().outline == 1; }));
+}
+
+TEST_F(SettingsByMouse, MovesATrackbar)
+{
+    Open();
+    ClickAt(FromMiddle(TrackbarInkLife, 40, 0)); // a page beyond the thumb
+    EXPECT_TRUE(PumpUntil([this] { return Record().inkDecayTime > 100; }));
+}
+
+TEST_F(SettingsByMouse, CloseBoxClosesIt)
+{
+    Open();
+    TITLEBARINFOEX bar{};
+    bar.cbSize = sizeof(bar);
+    SendMessageW(Dialog(), WM_GETTITLEBARINFOEX, 0, reinterpret_cast<LPARAM>(&bar));
+    RECT box = bar.rgrect[5];
+    if (IsRectEmpty(&box)) { // a system that does not say: the right end of the caption
+        RECT place{};
+        GetWindowRect(Dialog(), &place);
+        const LONG frame = GetSystemMetrics(SM_CYDLGFRAME);
+        const LONG caption = GetSystemMetrics(SM_CYCAPTION);
+        box = {place.right - frame - caption, place.top + frame, place.right - frame,
+               place.top + frame + caption};
+    }
+    ClickAt({(box.left + box.right) / 2, (box.top + box.bottom) / 2});
+    EXPECT_TRUE(PumpUntil([] { return OpenDialogs().empty(); }));
+}
+
+// The whole way of a colour from the screen into the ink.
+class ColourFromTheScreen : public SettingsDialogTest {
+protected:
+    static constexpr COLORREF Found = 0x00408020;
+    static constexpr RECT WholeScreen = {0, 0, 1024, 768};
+
+    void SetUp() override
+    {
+        shell.Move(WholeScreen);
+        CreateWithGDI();
+        LM_Params params = Params();
+        params.brushSize = 20;
+        params.usePressure = 0;
+        SetParams(params);
+    }
+
+    // Away from the dialog, from the found colour and from the tray.
+    static constexpr int PenX = 500;
+    static constexpr int PenY = 650;
+    Backdrop source{{40, 600, 140, 700}, Found};
+};
+
+TEST_F(ColourFromTheScreen, IsShownAtTheHoveringPenTakenByTheFirstContactAndDrawn)
+{
+    Open();
+    SetCursorPos(90, 650);
+    Click(ButtonColorPicker);
+
+    InputAndPaint({Sample(PenX, PenY, 0)});
+    const RECT aroundPen = {PenX - 60, PenY - 60, PenX + 60, PenY + 60};
+    const Picture hovering = TakePicture(aroundPen);
+    EXPECT_EQ(hovering.At(PenX - 32, PenY - 32), Found);
+    EXPECT_EQ(hovering.At(PenX - 32 - 18, PenY - 32), 0x00C0C0C0U);
+    EXPECT_EQ(Record().colorPicker, 1); // it goes on until a contact
+
+    InputAndPaint({Sample(PenX, PenY)});
+    EXPECT_EQ(Params().colorPicker, 0);
+    EXPECT_EQ(Params().inkColor, Found);
+
+    clock.Advance(1000);
+    Tick();
+    InputAndPaint({Sample(PenX - 40, PenY), Sample(PenX + 40, PenY)});
+    EXPECT_EQ(Text(EditRgb), "( 32, 128,  64)");
+    EXPECT_EQ(TakePicture(aroundPen).At(PenX, PenY), Found);
+}
+
+} // namespace
+} // namespace zq::LM::test
