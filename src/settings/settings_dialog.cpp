@@ -66,8 +66,7 @@ void ShowTriple(HWND dialog, int id, double first, double second, double third)
 
 } // namespace
 
-SettingsDialog::SettingsDialog(HWND parent, HMODULE module)
-    : parent(parent), module(module), framesPerSecond(60)
+SettingsDialog::SettingsDialog(HWND parent, HMODULE module) : parent(parent), module(module)
 {
     g_settingsDialog = this;
 }

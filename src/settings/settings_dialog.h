@@ -16,6 +16,8 @@ class SettingsDialog final : public ParamsView {
 public:
     SettingsDialog(HWND parent, HMODULE module);
     ~SettingsDialog() override;
+    SettingsDialog(const SettingsDialog&) = delete;
+    SettingsDialog& operator=(const SettingsDialog&) = delete;
 
     // The record may be gone when this object ends.
     void SetRecord(Params* shownRecord) { record = shownRecord; }
@@ -47,7 +49,7 @@ private:
     PickerControls picker;
     bool dragging = false;
     Params* record = nullptr;
-    std::uint32_t framesPerSecond; // shown, and read by nothing else
+    std::uint32_t framesPerSecond = 60; // shown, and read by nothing else
 };
 
 } // namespace zq::LM

@@ -71,6 +71,12 @@ void InkSession::Choose(BackEnd backEnd) const
     SendMessageW(library.getWindowHandle(), WM_COMMAND, CommandOf(backEnd), 0);
 }
 
+bool InkSession::ServeDialog(MSG& message) const
+{
+    HWND root = GetAncestor(message.hwnd, GA_ROOT);
+    return GetWindow(root, GW_OWNER) == window && IsDialogMessageW(root, &message) != 0;
+}
+
 void InkSession::Create_()
 {
     window = library.create();

@@ -29,6 +29,9 @@ public:
     // Takes effect with the next input, which makes a new window and draws nothing.
     void Choose(BackEnd backEnd) const;
 
+    // Gives a dialog of the overlay its keyboard; true when the message was for one and has been served.
+    bool ServeDialog(MSG& message) const;
+
     // Painted by another window than before: the library made a new one after its back-end was changed.
     void RefreshWindow() { window = library.getWindowHandle(); }
 

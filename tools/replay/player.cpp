@@ -88,10 +88,12 @@ bool Player::PumpMessages_()
     return true;
 }
 
-void Player::Dispatch_(const MSG& message)
+void Player::Dispatch_(MSG& message)
 {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+    if (!session.ServeDialog(message)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
     if (message.message != WM_PAINT) {
         return;
     }

@@ -33,7 +33,7 @@ private:
     double NowMs_() const;
     void InputDueSamples_();
     bool PumpMessages_();
-    void Dispatch_(const MSG& message);
+    void Dispatch_(MSG& message);
     void TakeDueScreenshots_();
     void MakeDueSwitches_();
     bool AtEnd_() const;
