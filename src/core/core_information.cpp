@@ -35,6 +35,7 @@ void Core::DrawInformation(DrawingLib& backEnd)
     facts.renderingType = g_renderingType;
     facts.shell = ShellWindowRect().value_or(screen);
     facts.lastPenData = lastPenData;
+    facts.port = brushDataServer != nullptr ? brushDataServer->Port() : 0;
     facts.textColour = params != nullptr ? params->reserved0 : 0;
     facts.debugSwitch = DebugSwitch;
     InformationOverlay(backEnd, renderScale, facts).Draw();
