@@ -2,7 +2,10 @@
 #include "windows/ui/tray_test.h"
 
 #include <commdlg.h>
+#include <malloc.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string_view>
 
 namespace zq::LM::test {
@@ -11,6 +14,17 @@ namespace {
 
 constexpr std::uint32_t Normal = 2;
 const Lines LinesOfCommand = {"WM_COMMAND ... ", "InvalidateRect is called.\n", "done\n"};
+
+#ifdef __MINGW32__
+// So that a use of memory that was given back shows. Other static runtimes import no allocator.
+void OverwriteInsteadOfFreeing(void* block)
+{
+    constexpr int Overwritten = 0xDD;
+    if (block != nullptr) {
+        std::memset(block, Overwritten, _msize(block));
+    }
+}
+#endif
 
 } // namespace
 
@@ -202,6 +216,9 @@ TEST_F(CommandsTest, TheDialogIsOpenBetweenTheFirstLineAndTheRepaint)
 // A dialog lets the host's code run, which may end the instance.
 TEST_F(CommandsTest, AnInstanceThatEndsWhileTheDialogIsOpenIsTouchedNoMore)
 {
+#ifdef __MINGW32__
+    const ImportPatch free(library.Module(), "msvcrt.dll", "free", AsAddress(OverwriteInsteadOfFreeing));
+#endif
     CreateWithTray(Normal);
     AnswerSaveDialog(FALSE);
     whileDialogIsOpen = [this] {
