@@ -36,8 +36,8 @@ class OverlayTest : public ::testing::Test {
 protected:
     static constexpr RECT Desktop = {200, 60, 840, 540};
 
-    // The command's back-end is active from the start of the next instance, so that no window of another is left
-    // behind.
+    // The command's back-end is active from the start of the next instance, so that no window of another is
+    // left behind.
     void Select(WPARAM command);
     HWND CreateWithGDI();
 
