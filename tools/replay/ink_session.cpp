@@ -74,7 +74,7 @@ void InkSession::Choose(BackEnd backEnd) const
 bool InkSession::ServeDialog(MSG& message) const
 {
     HWND root = GetAncestor(message.hwnd, GA_ROOT);
-    return GetWindow(root, GW_OWNER) == window && IsDialogMessageW(root, &message) != 0;
+    return window != nullptr && GetWindow(root, GW_OWNER) == window && IsDialogMessageW(root, &message) != 0;
 }
 
 void InkSession::Create_()
