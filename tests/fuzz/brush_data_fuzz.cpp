@@ -3,14 +3,18 @@
 #include "settings/brush_data.h"
 
 #include "fuzz/fuzz_target.h"
+#include "support/distinct_params.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <vector>
 
 namespace zq::LM {
+
+using test::Distinct;
+using test::Same;
+
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -22,20 +26,6 @@ void Require(bool holds, const char* what)
         std::abort();
     }
 }
-
-// Every byte has a value of its own, so that one that changes is seen.
-Params Distinct()
-{
-    std::uint8_t bytes[sizeof(Params)];
-    for (std::size_t i = 0; i < sizeof(bytes); ++i) {
-        bytes[i] = static_cast<std::uint8_t>(0xA0 + i);
-    }
-    Params params;
-    std::memcpy(&params, bytes, sizeof(params));
-    return params;
-}
-
-bool Same(const Params& left, const Params& right) { return std::memcmp(&left, &right, sizeof(left)) == 0; }
 
 // What no message of the kind may change is put back; then nothing may differ.
 void RequireOnlyTheKindsChanges(BrushDataKind kind, Params params)

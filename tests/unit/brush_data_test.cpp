@@ -2,12 +2,12 @@
 #include "settings/brush_data.h"
 
 #include "support/brush_data_bytes.h"
+#include "support/distinct_params.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 namespace zq::LM {
@@ -15,26 +15,14 @@ namespace zq::LM {
 using test::BrushParamsMessage;
 using test::BrushSizeMessage;
 using test::Bytes;
+using test::Distinct;
 using test::InkColorMessage;
 using test::InkDecayTimeMessage;
 using test::Message;
 using test::NameBytes;
+using test::Same;
 
 namespace {
-
-bool Same(const Params& left, const Params& right) { return std::memcmp(&left, &right, sizeof(left)) == 0; }
-
-// Every byte has a value of its own, so that one that changes is seen.
-Params Distinct()
-{
-    std::uint8_t bytes[sizeof(Params)];
-    for (std::size_t i = 0; i < sizeof(bytes); ++i) {
-        bytes[i] = static_cast<std::uint8_t>(0xA0 + i);
-    }
-    Params params;
-    std::memcpy(&params, bytes, sizeof(params));
-    return params;
-}
 
 class BrushData : public ::testing::Test {
 protected:

@@ -131,6 +131,19 @@ TEST_F(GdiInformationTest, NothingOfItRemainsOnTheScreenAfterItsLevelIs0AndTheNe
     EXPECT_FALSE(OverlayShowsSomething());
 }
 
+TEST_F(GdiInformationTest, TheMenusLevelsSwitchItOnAndOffWithTheirOwnRepaint)
+{
+    constexpr WPARAM LogNone = 40010;
+    for (const WPARAM level : {40011U, 40012U, 40013U, 40014U}) {
+        Choose(level);
+        Paint();
+        EXPECT_TRUE(OverlayShowsSomething()) << "command " << level;
+        Choose(LogNone);
+        Paint();
+        EXPECT_FALSE(OverlayShowsSomething()) << "after command " << level;
+    }
+}
+
 TEST_F(GdiInformationTest, AChangeOfTheLevelRepaintsNothing)
 {
     RecordDrawing();
