@@ -73,17 +73,16 @@ void TryHostsRoad(const Bytes& padded, BrushDataKind kind, const Params& expecte
     Bytes left = message;
     std::fill_n(left.begin(), wiped, std::uint8_t{0});
     const std::size_t offset = padded.size() % 2;
-    Bytes buffer(offset, 0xEE);
-    buffer.insert(buffer.end(), message.begin(), message.end());
-    buffer.shrink_to_fit();
+    Bytes buffer(offset + message.size(), 0xEE);
+    std::uint8_t* const begin = buffer.data() + offset;
+    std::copy(message.begin(), message.end(), begin);
 
     Params params = Distinct();
-    Require(DecodeBrushData(params, buffer.data() + offset) == kind, "the roads find different kinds");
+    Require(DecodeBrushData(params, begin) == kind, "the roads find different kinds");
     Require(Same(params, expected), "the roads give different records");
-    buffer.erase(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(offset));
-    Require(buffer == left, "another part of the message is wiped");
+    Require(std::equal(left.begin(), left.end(), begin), "another part of the message is wiped");
     if (kind != BrushDataKind::Nothing) {
-        Require(FindBrushDataKind(buffer.data()) == BrushDataKind::Nothing, "a message is consumed twice");
+        Require(FindBrushDataKind(begin) == BrushDataKind::Nothing, "a message is consumed twice");
     }
 }
 
