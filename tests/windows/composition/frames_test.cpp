@@ -1,4 +1,5 @@
 // Frames of the DirectComposition back-end: lines, brushes, alpha and how they are presented.
+#include "support/watched_call.h"
 #include "windows/composition/composition_test.h"
 
 #include <algorithm>
@@ -69,6 +70,27 @@ TEST_F(FramesTest, ColoursComeWithRedInTheLowByte)
     SetInk(0x00112233);
     FrameWith({Sample(100, 100), Sample(200, 100)});
     EXPECT_EQ(PixelAt(150, 100), 0xFF332211U);
+}
+
+TEST_F(FramesTest, OfAColourPickShowTwoPointsInGreyAndInTheScreensColour)
+{
+    WatchedCall<decltype(GetPixel)> pixel(library.Module(), "GDI32.dll", "GetPixel");
+    pixel.Refuse(0x00FF0000); // the system's answer, whatever is on the screen
+    LM_Params params = Params();
+    params.colorPicker = 1;
+    SetParams(params);
+    Lines calls = FrameWith({Sample(200, 200, 0)});
+    std::erase_if(calls, [](const std::string& call) {
+        return call.find("CreateSolidColorBrush") == std::string::npos &&
+               call.find("DrawLine") == std::string::npos;
+    });
+    EXPECT_THAT(
+        calls,
+        ElementsAre(
+            "DeviceContext#1.CreateSolidColorBrush({0.752941, 0.752941, 0.752941, 1}, null) = 0 -> Brush#1",
+            "DeviceContext#1.DrawLine({168, 168}, {168, 168}, Brush#1, 40, StrokeStyle#1)",
+            "DeviceContext#1.CreateSolidColorBrush({0, 0, 1, 1}, null) = 0 -> Brush#2",
+            "DeviceContext#1.DrawLine({168, 168}, {168, 168}, Brush#2, 32, StrokeStyle#1)"));
 }
 
 TEST_F(FramesTest, StartWithoutTheFrameBefore)
