@@ -167,12 +167,15 @@ TEST_F(CommandsTest, ALevelOfTheMenuGivesTheNextWindowNoUserInterface)
     EXPECT_EQ(calls.Count("RegisterHotKey"), 0U);
 }
 
-TEST_F(CommandsTest, TheSettingsHaveNoDialogYet)
+TEST_F(CommandsTest, TheSettingsCommandOpensTheOverlaysDialog)
 {
     CreateWithTray(Normal);
     EXPECT_EQ(Command(SettingsCommand), 0);
     EXPECT_EQ(debugger.Texts(), LinesOfCommand);
     EXPECT_TRUE(IsInvalid());
+    const HWND dialog = FindWindowW(L"#32770", L"Orvane Settings");
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(GetWindow(dialog, GW_OWNER), window);
 }
 
 TEST_F(CommandsTest, SavingAsksForAFile)
