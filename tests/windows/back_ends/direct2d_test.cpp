@@ -1,5 +1,6 @@
 // The Direct2D back-end in the life of the overlay: its pixels on the screen, its bitmap, and a set-up that
 // failed.
+#include "support/step_name.h"
 #include "support/watched_call.h"
 #include "windows/back_ends/back_end_test.h"
 
@@ -161,12 +162,7 @@ TEST_P(Direct2DOverlayWithoutATarget, GivesWayToAnotherBackEnd)
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, Direct2DOverlayWithoutATarget,
-                         testing::Values("D2D1CreateFactory", "D2DFactory.CreateDCRenderTarget"),
-                         [](const testing::TestParamInfo<const char*>& info) {
-                             std::string name = info.param;
-                             std::erase(name, '.');
-                             return name;
-                         });
+                         testing::Values("D2D1CreateFactory", "D2DFactory.CreateDCRenderTarget"), StepName);
 
 } // namespace
 

@@ -1,4 +1,5 @@
 // How the swap chain follows the overlay's size.
+#include "support/step_name.h"
 #include "windows/composition/composition_test.h"
 
 #include <algorithm>
@@ -166,11 +167,7 @@ TEST_P(FailingResizeTest, SaysNothing)
 
 INSTANTIATE_TEST_SUITE_P(Steps, FailingResizeTest,
                          testing::Values("SwapChain.GetBuffer", "DeviceContext.CreateBitmapFromDxgiSurface"),
-                         [](const testing::TestParamInfo<const char*>& info) {
-                             std::string name = info.param;
-                             std::erase(name, '.');
-                             return name;
-                         });
+                         StepName);
 
 } // namespace
 

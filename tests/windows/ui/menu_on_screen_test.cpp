@@ -192,7 +192,8 @@ TEST_F(MenuOnScreenTest, ACommandChosenByKeysTakesEffect)
     const auto isNormalInForce = [this] {
         debugger.Clear();
         Tick();
-        return debugger.Texts().back() == "done.\n";
+        const std::vector<std::string> texts = debugger.Texts();
+        return !texts.empty() && texts.back() == "done.\n";
     };
     ASSERT_FALSE(isNormalInForce());
     for (int i = 0; i < MostTries && !isNormalInForce(); ++i) {
