@@ -67,7 +67,7 @@ public:
     // The index is the RenderingType.
     BackEnds& AllBackEnds() { return backEnds; }
 
-    void SetParamsView(std::unique_ptr<ParamsView> view) { paramsView = std::move(view); }
+    void SetParamsView(std::unique_ptr<ParamsView> view) { paramsView.reset(view.release()); }
 
     // Facts for diagnosis.
     const Params* Record() const { return params.get(); }
@@ -120,7 +120,7 @@ private:
     std::vector<PenData> sampleReserve; // memory kept at hand; holds nothing
     PenData lastPenData{};              // the last sample of the most recent input
     BackEnds backEnds;
-    std::unique_ptr<ParamsView> paramsView; // the settings dialog; null until the window exists
+    Owned<ParamsView> paramsView; // the settings dialog; null until the window exists
     TrayMenu trayMenu;
     std::unique_ptr<sc::WinGui::Tasktray> tasktray;
     FileVersion fileVersion;

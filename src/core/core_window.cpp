@@ -76,7 +76,7 @@ void Core::CreateSettingsDialog_()
     if (dialog != nullptr) {
         dialog->SetRecord(params.get());
     }
-    paramsView = std::move(dialog);
+    paramsView.reset(dialog.release());
 }
 
 void Core::SetUpMemorySurface_()

@@ -1,15 +1,12 @@
 // What shows the parameter record to a person and follows its changes.
 #pragma once
 
+#include "platform/endable.h"
+
 namespace zq::LM {
 
-class ParamsView {
+class ParamsView : public Endable {
 public:
-    ParamsView() = default;
-    virtual ~ParamsView() = default;
-    ParamsView(const ParamsView&) = delete;
-    ParamsView& operator=(const ParamsView&) = delete;
-
     // Shows itself; nothing happens when it is open already.
     virtual void Open() = 0;
 
