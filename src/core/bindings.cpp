@@ -30,17 +30,27 @@ DrawingLib* ActiveBackEnd()
     return core != nullptr ? core->ActiveBackEnd() : nullptr;
 }
 
-// Windows stay behind when the back-end changes, and when an instance ends on another thread.
+// Windows stay behind when the back-end changes, and when an instance ends on another thread. One whose Core
+// has ended while it was being made is not to come into being.
 LRESULT ServeLeftWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message != WM_PAINT) {
+    constexpr LRESULT Refused = -1;
+    constexpr LRESULT Erased = 1;
+    switch (message) {
+    case WM_CREATE:
+        return Refused;
+    case WM_ERASEBKGND: // the class erases in white
+        return Erased;
+    case WM_PAINT: {
+        const PaintSession paint(window);
+        RECT client{};
+        GetClientRect(window, &client);
+        FillRectangle(paint.Get(), client, g_colorKey);
+        return 0;
+    }
+    default:
         return DefWindowProcW(window, message, wParam, lParam);
     }
-    const PaintSession paint(window);
-    RECT client{};
-    GetClientRect(window, &client);
-    FillRectangle(paint.Get(), client, g_colorKey);
-    return 0;
 }
 
 } // namespace
@@ -58,8 +68,6 @@ void ForgetWindowCore(const Core* core)
     }
 }
 
-bool IsWindowCore(const Core* core) { return LivingCore() == core; }
-
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (g_core == nullptr) {
@@ -69,6 +77,7 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     if (core == nullptr || !core->Owns(window, message)) {
         return ServeLeftWindow(window, message, wParam, lParam);
     }
+    const Hold hold(*core);
     try {
         return core->Dispatch(window, message, wParam, lParam);
     } catch (...) {

@@ -15,9 +15,6 @@ class Core;
 void SetWindowCore(Core* core);
 void ForgetWindowCore(const Core* core);
 
-// False once this Core has ended, which its own code can ask after a dialog that let other code run.
-bool IsWindowCore(const Core* core);
-
 // Serves the window of the reached Core. No exception leaves it. A window that has lost its Core stays
 // cleared.
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

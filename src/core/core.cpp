@@ -32,28 +32,49 @@ Core::Core(HMODULE module, unsigned creationValue)
     CreateDrawing_();
     BindCallbacks_();
     CreateBackEnds_();
-    tasktray = MakeOrNull<sc::WinGui::Tasktray>();
+    tasktray.reset(MakeOrNull<sc::WinGui::Tasktray>().release());
     CreateBrushDataServer_();
 }
 
-// The order is fixed: later members may use earlier ones until they are gone. The window itself is not
-// destroyed here.
+// Everything is given back at once, also while calls of this Core still run; only its memory waits for them.
+// What a frame draws with waits for the frame.
+void Core::OnEnd()
+{
+    ForgetWindowCore(this);
+    if (drawingDepth == 0) {
+        GiveBack_();
+    } else {
+        GiveBackUserInterface_();
+    }
+}
+
 Core::~Core()
 {
     ForgetWindowCore(this);
+    GiveBack_();
+}
+
+// What is drawn with and what is shown goes before the back-ends. The window itself is not destroyed here.
+void Core::GiveBack_()
+{
     memorySurface.Release();
     SetMemoryDCEverywhere_(nullptr);
     drawing.reset();
     params.reset();
+    GiveBackUserInterface_();
+    brushDataServer.reset();
+    for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {
+        backEnd.reset();
+    }
+}
+
+void Core::GiveBackUserInterface_()
+{
     paramsView.reset();
     tasktray.reset();
     trayMenu.Destroy();
     window.UnregisterHotkey();
     window.StopTimer();
-    brushDataServer.reset();
-    for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {
-        backEnd.reset();
-    }
 }
 
 void Core::ReadVersion_()
@@ -109,6 +130,7 @@ void Core::SetParams(const Params& source)
     if (params == nullptr) {
         return;
     }
+    const Hold hold(*this);
     *params = source;
     PassParams_();
     RefreshView_();
@@ -126,6 +148,7 @@ void Core::SetBrushData(std::uint8_t* message)
     if (params == nullptr) {
         return;
     }
+    const Hold hold(*this);
     if (message != nullptr) {
         DecodeBrushData(*params, message); // of whatever kind: what follows is the same
     }
@@ -152,6 +175,7 @@ void Core::InputPenData(const PenData* samples, std::size_t count)
     if (samples == nullptr) {
         return;
     }
+    const Hold hold(*this);
     PassParams_();
     if (count != 0) {
         if (drawing != nullptr) {
@@ -160,7 +184,9 @@ void Core::InputPenData(const PenData* samples, std::size_t count)
         lastPenData = samples[count - 1];
     }
     ShowPickedColourOnce_();
-    window.Invalidate();
+    if (Lives()) {
+        window.Invalidate();
+    }
 }
 
 // Picking a colour ends inside a frame; the record's view hears of it with the next input.
@@ -171,6 +197,9 @@ void Core::ShowPickedColourOnce_()
     }
     if (g_previousColorPicker == 1 && params->colorPicker == 0) {
         RefreshView_();
+        if (!Lives()) {
+            return; // the flag is the next instance's by now
+        }
     }
     g_previousColorPicker = params->colorPicker;
 }
@@ -179,6 +208,7 @@ void Core::ClearForRebuild()
 {
     ClearWindowToKey(Window());
     renderingTypeChanged = false;
+    PassParams_();
 }
 
 DrawingLib* Core::ActiveBackEnd()

@@ -5,6 +5,7 @@
 #include "core/brush_data_setting.h"
 #include "core/library_version.h"
 #include "ink/drawing.h"
+#include "platform/endable.h"
 #include "render/drawing_lib.h"
 #include "render/memory_surface.h"
 #include "render/rendering_type.h"
@@ -23,17 +24,20 @@ namespace zq::LM {
 
 // Pen input comes on the host's thread; the window's timer and painting on the window's, which is the same
 // one in normal use. Nothing here is locked: only the ink engine guards its own data.
-class Core final : private WindowEvents {
+//
+// Whoever calls a public function that can run host code need not hold the Core: it holds itself.
+class Core final : public Endable, private WindowEvents {
 public:
     using BackEnds = std::vector<std::unique_ptr<DrawingLib>>;
 
     // The creation value is kept for the Core that follows a change of the back-end. Raises std::bad_alloc.
     Core(HMODULE module, unsigned creationValue);
-    ~Core();
+    ~Core() override;
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
 
-    // Creates the overlay window and binds the active back-end to it. Null on failure.
+    // Creates the overlay window and binds the active back-end to it. Null on failure, and when the host has
+    // ended this Core meanwhile.
     HWND CreateOverlayWindow();
 
     // Null before the window exists and after its destruction.
@@ -52,7 +56,8 @@ public:
     // Null is ignored. A count of 0 applies the parameters and repaints.
     void InputPenData(const PenData* samples, std::size_t count);
 
-    // After a change of the back-end, the next pen input makes a new Core in this one's place.
+    // After a change of the back-end, the next pen input makes a new Core in this one's place. What the
+    // settings dialog has changed since the last input reaches the engine's record before.
     bool IsRebuildDue() const { return renderingTypeChanged; }
     void ClearForRebuild();
     HMODULE Module() const { return module; }
@@ -77,11 +82,16 @@ public:
     const BrushDataServer* Server() const { return brushDataServer.get(); } // null unless the setting is on
 
 private:
+    void OnEnd() override;
+    void GiveBack_();
+    void GiveBackUserInterface_();
+
     void OnCreated() override;
     void OnPaint() override;
     void OnTick() override;
     void OnCommand(unsigned id) override;
     void OnMenuWanted() override;
+    void OnShellRestarted() override;
 
     void ReadVersion_();
     void CreateDrawing_();
@@ -89,14 +99,32 @@ private:
     void CreateBackEnds_();
     void CreateBrushDataServer_();
 
+    // As long as it lives, engine and back-ends are in use.
+    class DrawingScope {
+    public:
+        explicit DrawingScope(Core& core) : depth(core.drawingDepth) { ++depth; }
+        ~DrawingScope() { --depth; }
+        DrawingScope(const DrawingScope&) = delete;
+        DrawingScope& operator=(const DrawingScope&) = delete;
+
+    private:
+        unsigned& depth;
+    };
+
+    // The question after every call that can run host code: whether to go on with the window.
+    bool HasWindow_() const { return Lives() && Window() != nullptr; }
+
     void SetUpWindow_();
+    void BindBackEnd_();
     void CreateSettingsDialog_();
     void SetUpMemorySurface_();
     void SetMemoryDCEverywhere_(HDC dc);
     void ClearWindowIfMemoryDrawn_();
-    bool FollowScreen_();
+    void FollowScreen_();
     void DrawFrame_();
+    void PaintComposed_();
     void PaintFromMemory_();
+    void ShowMemory_(HDC target);
 
     void ShowTray_();
     void RunCommand_(unsigned id);
@@ -122,9 +150,13 @@ private:
     BackEnds backEnds;
     Owned<ParamsView> paramsView; // the settings dialog; null until the window exists
     TrayMenu trayMenu;
-    std::unique_ptr<sc::WinGui::Tasktray> tasktray;
+    Owned<sc::WinGui::Tasktray> tasktray;
     FileVersion fileVersion;
     MemorySurface memorySurface;
+    unsigned drawingDepth = 0;   // calls that the ink engine or a back-end is on the stack of
+    bool surfaceIsStale = false; // the screen has changed since the surface was made
+    RenderingType boundType = RenderingType::DirectComposition; // whose back-end the window is set up for
+    bool isBoundWithoutSize = false; // to a window of no size, on which a back-end may have failed
 };
 
 } // namespace zq::LM

@@ -1,5 +1,4 @@
 // The Core's side of the tray: icon, menu and the menu's commands.
-#include "core/bindings.h"
 #include "core/core.h"
 #include "interface/debug_log.h"
 #include "render/rendering_type.h"
@@ -16,8 +15,12 @@ void Core::ShowTray_()
         tasktray->SetUp(Window(), module, TrayMessage, IconLumora);
         tasktray->SetTip(L"Lumora Core");
         tasktray->Show(); // a shell that refuses the icon leaves the hotkey
+        if (!HasWindow_()) {
+            return;
+        }
     }
     trayMenu.Load(module);
+    window.ListenForShell();
 }
 
 void Core::OnMenuWanted()
@@ -28,11 +31,19 @@ void Core::OnMenuWanted()
     }
 }
 
+// The new shell knows nothing of the icon.
+void Core::OnShellRestarted()
+{
+    if (tasktray != nullptr) {
+        tasktray->Show();
+    }
+}
+
 void Core::OnCommand(unsigned id)
 {
     RunCommand_(id);
-    if (!IsWindowCore(this)) {
-        return; // the host ended the instance, or its input rebuilt it, while a dialog was open
+    if (!Lives()) {
+        return;
     }
     window.Invalidate();
     MarkMenu_();

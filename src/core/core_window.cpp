@@ -21,16 +21,23 @@ std::int64_t g_previousLiveCount = 0; // as the tick before read it; outlives in
 
 HWND Core::CreateOverlayWindow()
 {
+    const Hold hold(*this);
     if (!window.RegisterWindowClass(module, WindowProcedure)) {
         return nullptr;
     }
     SetWindowCore(this); // before the window exists: its creation messages come here
-    const HWND handle = window.Create();
-    if (handle != nullptr) {
+    window.Create();
+    if (HasWindow_()) {
         SetUpWindow_();
+    }
+    if (HasWindow_()) {
         SetUpMemorySurface_();
     }
-    return handle;
+    if (!Lives()) {
+        DestroyWindow(Window()); // half made it would be an opaque sheet; most often it has gone already
+        return nullptr;
+    }
+    return Window();
 }
 
 LRESULT Core::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
@@ -42,20 +49,33 @@ void Core::OnCreated()
 {
     if (g_userInterfaceSwitch) {
         ShowTray_();
+        if (!HasWindow_()) {
+            return;
+        }
     }
     window.MeasurePixels();
     FollowScreen_();
-    MarkMenu_();
-    window.StartTimer();
+    if (HasWindow_()) {
+        MarkMenu_();
+        window.StartTimer();
+    }
 }
 
 void Core::SetUpWindow_()
 {
     window.MakeClickThrough();
-    if (DrawingLib* backEnd = ActiveBackEnd()) {
-        backEnd->InitTransparentWindow(Window(), g_colorKey);
+    if (!HasWindow_()) {
+        return;
     }
-    if (window.FitToScreen()) {
+    BindBackEnd_();
+    if (!HasWindow_()) {
+        return;
+    }
+    const bool isFitted = window.FitToScreen();
+    if (!HasWindow_()) {
+        return;
+    }
+    if (isFitted) {
         ClearWindowIfMemoryDrawn_();
     }
     // A first, empty frame. The memory bitmap does not exist yet, so only DirectComposition shows it.
@@ -63,10 +83,23 @@ void Core::SetUpWindow_()
         drawing->ClearLivePenData();
     }
     DrawFrame_();
+    if (!HasWindow_()) {
+        return;
+    }
     ClearWindowIfMemoryDrawn_();
     CreateSettingsDialog_();
     if (g_userInterfaceSwitch) {
         window.RegisterHotkey();
+    }
+}
+
+void Core::BindBackEnd_()
+{
+    boundType = g_renderingType;
+    isBoundWithoutSize = window.IsScreenEmpty();
+    const DrawingScope scope(*this);
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        backEnd->InitTransparentWindow(Window(), g_colorKey);
     }
 }
 
@@ -81,6 +114,7 @@ void Core::CreateSettingsDialog_()
 
 void Core::SetUpMemorySurface_()
 {
+    surfaceIsStale = false;
     memorySurface.Release();
     SetMemoryDCEverywhere_(nullptr);
     if (DrawsIntoMemory(GetRenderingType())) {
@@ -109,19 +143,27 @@ void Core::ClearWindowIfMemoryDrawn_()
     }
 }
 
-bool Core::FollowScreen_()
+void Core::FollowScreen_()
 {
     if (!window.FollowScreen()) {
-        return false;
+        return;
+    }
+    surfaceIsStale = true;
+    if (!HasWindow_()) {
+        return;
     }
     if (DrawingLib* backEnd = ActiveBackEnd()) {
+        const DrawingScope scope(*this);
         backEnd->Resize(Window());
     }
-    return true;
+    if (isBoundWithoutSize && HasWindow_()) {
+        BindBackEnd_();
+    }
 }
 
 void Core::DrawFrame_()
 {
+    const DrawingScope scope(*this);
     if (drawing != nullptr) {
         drawing->DrawLumoraLines();
         return;
@@ -133,36 +175,70 @@ void Core::DrawFrame_()
 
 void Core::OnPaint()
 {
-    const bool screenChanged = FollowScreen_();
-    if (DrawsIntoMemory(GetRenderingType())) {
-        if (screenChanged) {
-            SetUpMemorySurface_(); // the bitmap must cover the new screen
-        }
-        PaintFromMemory_();
-    } else {
-        const PaintSession paint(Window());
-        DrawFrame_();
+    FollowScreen_();
+    if (!HasWindow_()) {
+        return;
+    }
+    if (!DrawsIntoMemory(GetRenderingType())) {
+        PaintComposed_();
+        return;
+    }
+    // The bitmap covers the screen; one that could not be made is tried again. A window that was set up to be
+    // composed cannot show one.
+    if (DrawsIntoMemory(boundType) && (surfaceIsStale || memorySurface.DC() == nullptr)) {
+        SetUpMemorySurface_();
+    }
+    PaintFromMemory_();
+}
+
+void Core::PaintComposed_()
+{
+    const PaintSession paint(Window());
+    if (!HasWindow_()) {
+        return;
+    }
+    DrawFrame_();
+    if (DrawsIntoMemory(boundType) && HasWindow_()) {
+        ClearWindowToKey(Window()); // nobody draws on this window any more: its last ink must not stay
     }
 }
 
 void Core::PaintFromMemory_()
 {
     const PaintSession paint(Window());
+    if (!HasWindow_()) {
+        return;
+    }
     const WindowDC dc(Window());
     SetBkColor(dc.Get(), g_colorKey);
     if (memorySurface.DC() != nullptr) {
         DrawFrame_();
-        RECT client{};
-        GetClientRect(Window(), &client);
-        memorySurface.CopyTo(dc.Get(), client, renderScale);
+        if (HasWindow_()) {
+            ShowMemory_(dc.Get());
+        }
+    } else if (DrawsIntoMemory(boundType)) {
+        ClearWindowToKey(Window()); // not even white, which the window is erased with
     }
+}
+
+void Core::ShowMemory_(HDC target)
+{
+    RECT client{};
+    GetClientRect(Window(), &client);
+    if (g_renderingType != boundType) {
+        memorySurface.Clear(); // drawn by a back-end that does not know the key yet
+    }
+    memorySurface.CopyTo(target, client, renderScale);
 }
 
 // Repaints during drawing come from pen input; a tick only wipes the last ink.
 void Core::OnTick()
 {
+    if (window.IsScreenEmpty()) {
+        FollowScreen_(); // a window of no size is never painted, so no paint would find that it has one again
+    }
     TakeReceivedBrushData_();
-    if (drawing == nullptr) {
+    if (drawing == nullptr || !Lives()) {
         return;
     }
     drawing->DeleteOldPenData();

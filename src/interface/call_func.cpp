@@ -57,8 +57,7 @@ void GetElmSize(std::uint64_t* paramsSize, std::uint64_t* penDataSize)
 LM_WindowHandle GetWindowHandle()
 {
     LM::Log(LM::BASIC, L"zq::CallFunc::GetWindowHandle\n");
-    const LM::Core* core = LM::CurrentCore();
-    return core != nullptr ? core->Window() : nullptr;
+    return LM::CurrentWindow();
 }
 
 void InputPenDataArray(const LM_PenData* samples, std::uint64_t count)

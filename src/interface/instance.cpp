@@ -2,6 +2,7 @@
 #include "interface/instance.h"
 
 #include <new>
+#include <utility>
 
 namespace zq::LM {
 
@@ -10,54 +11,106 @@ HMODULE g_module = nullptr;
 
 namespace {
 
+unsigned g_lifeChanges = 0;
+
+// Creating, ending and rebuilding an instance run host code, which may do any of the three again. The host's
+// last word counts: a change that finds a later one leaves everything as that one has made it.
+class LifeChange {
+public:
+    LifeChange() : number(++g_lifeChanges) {}
+    bool IsLatest() const { return number == g_lifeChanges; }
+
+private:
+    unsigned number;
+};
+
 // Without memory for the Core itself the holder stays empty; what fails inside the Core passes to the host.
-std::unique_ptr<Core> MakeCore(HMODULE module, unsigned creationValue)
+Owned<Core> MakeCore(HMODULE module, unsigned creationValue)
 {
-    return std::unique_ptr<Core>(new (std::nothrow) Core(module, creationValue));
+    return Owned<Core>(new (std::nothrow) Core(module, creationValue));
+}
+
+// A window that stays behind needs the window procedure for as long as the process lasts.
+void KeepLibraryLoaded()
+{
+    HMODULE pinned = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(&WindowProcedure), &pinned);
+}
+
+// Detached first: whatever the host calls from within finds no instance, or the one that it has just made.
+void EndInstance()
+{
+    const std::unique_ptr<CoreHolder> ending(std::exchange(g_coreHolder, nullptr));
+    if (ending == nullptr || ending->core == nullptr) {
+        return;
+    }
+    // The window before its Core: its last messages still find a living one.
+    if (HWND window = ending->core->Window(); window != nullptr && DestroyWindow(window) == 0) {
+        KeepLibraryLoaded(); // another thread's
+    }
 }
 
 // The old window is left in place, cleared, under the new one.
-void Rebuild(CoreHolder& holder)
+void Rebuild()
 {
-    holder.core->ClearForRebuild();
+    const LifeChange change;
+    Owned<Core> old = std::move(g_coreHolder->core);
+    KeepLibraryLoaded();
+    old->ClearForRebuild();
     Params saved = DefaultParams;
-    holder.core->GetEngineParams(&saved);
-    const HMODULE module = holder.core->Module();
-    const unsigned creationValue = holder.core->CreationValue();
-    holder.core.reset(); // before the new one: only one may hold the system's resources
-    holder.core = MakeCore(module, creationValue);
-    if (holder.core != nullptr) {
-        holder.core->SetParams(saved);
-        holder.core->CreateOverlayWindow();
+    old->GetEngineParams(&saved);
+    const HMODULE module = old->Module();
+    const unsigned creationValue = old->CreationValue();
+    old.reset(); // before the new one: only one may hold the system's resources
+    if (!change.IsLatest()) {
+        return;
     }
+    Owned<Core> made = MakeCore(module, creationValue);
+    if (made == nullptr || !change.IsLatest()) {
+        return;
+    }
+    Core& core = *made;
+    const Hold hold(core);
+    g_coreHolder->core = std::move(made);
+    core.SetParams(saved);
+    core.CreateOverlayWindow();
 }
 
 } // namespace
 
 Core* CurrentCore() { return g_coreHolder != nullptr ? g_coreHolder->core.get() : nullptr; }
 
+HWND CurrentWindow()
+{
+    const Core* core = CurrentCore();
+    return core != nullptr ? core->Window() : nullptr;
+}
+
 HWND CreateInstance()
 {
     constexpr unsigned CreationValue = 0;
-    DestroyInstance();
+    const LifeChange change;
+    EndInstance();
+    if (!change.IsLatest()) {
+        return CurrentWindow();
+    }
     auto holder = std::make_unique<CoreHolder>();
     holder->core = MakeCore(g_module, CreationValue);
+    if (!change.IsLatest()) {
+        return CurrentWindow();
+    }
     g_coreHolder = holder.release();
-    Core* core = CurrentCore();
-    return core != nullptr ? core->CreateOverlayWindow() : nullptr;
+    if (Core* core = CurrentCore()) {
+        core->CreateOverlayWindow();
+    }
+    return CurrentWindow();
 }
 
 void DestroyInstance()
 {
-    if (g_coreHolder == nullptr) {
-        return;
-    }
-    // The window first: its last messages still find a living Core.
-    if (Core* core = CurrentCore(); core != nullptr && core->Window() != nullptr) {
-        DestroyWindow(core->Window());
-    }
-    delete g_coreHolder;
-    g_coreHolder = nullptr;
+    const LifeChange change;
+    EndInstance();
 }
 
 void InputPenData(const PenData* samples, std::size_t count)
@@ -67,7 +120,7 @@ void InputPenData(const PenData* samples, std::size_t count)
         return;
     }
     if (core->IsRebuildDue()) {
-        Rebuild(*g_coreHolder);
+        Rebuild();
         return;
     }
     core->InputPenData(samples, count);

@@ -1,7 +1,9 @@
 // The one instance that the exports act on: its holder and its life.
 #pragma once
 
+#include "core/bindings.h"
 #include "core/core.h"
+#include "platform/endable.h"
 
 #include <cstddef>
 #include <memory>
@@ -10,7 +12,7 @@ namespace zq::LM {
 
 // Owns the current Core, which a change of the back-end replaces while the holder stays.
 struct CoreHolder {
-    std::unique_ptr<Core> core;
+    Owned<Core> core;
 };
 
 // Exists from creation to destruction. A plain pointer: a process that ends without destroying its instance
@@ -20,10 +22,12 @@ extern CoreHolder* g_coreHolder;
 // The library's own module, whatever the host's is.
 extern HMODULE g_module;
 
-// The current Core, or null.
+// The current Core and its window, or null.
 Core* CurrentCore();
+HWND CurrentWindow();
 
-// Replaces an earlier instance. Null when the window could not be made.
+// Each of these runs host code, which may call any of them again; what it calls last holds. Creating replaces
+// an earlier instance. Its result is the current window: null when there is none.
 HWND CreateInstance();
 void DestroyInstance();
 

@@ -6,9 +6,11 @@
 
 namespace zq::LM {
 
-void MemorySurface::Create(HWND window, int width, int height)
+void MemorySurface::Create(HWND window, int newWidth, int newHeight)
 {
     Release();
+    width = newWidth;
+    height = newHeight;
     const WindowDC windowDC(window);
     dc.reset(CreateCompatibleDC(windowDC.Get()));
     bitmap.reset(CreateCompatibleBitmap(windowDC.Get(), width, height));
@@ -18,7 +20,14 @@ void MemorySurface::Create(HWND window, int width, int height)
     }
     selected.emplace(dc.get(), bitmap.get());
     // A new bitmap is black, and a back-end may fail to draw on it or not reach all of it.
-    FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey);
+    Clear();
+}
+
+void MemorySurface::Clear() const
+{
+    if (dc != nullptr) {
+        FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey);
+    }
 }
 
 void MemorySurface::Release()
@@ -31,16 +40,17 @@ void MemorySurface::Release()
 
 void MemorySurface::CopyTo(HDC target, const RECT& client, double scale) const
 {
-    const int width = client.right - client.left;
-    const int height = client.bottom - client.top;
+    const int shownWidth = client.right - client.left;
+    const int shownHeight = client.bottom - client.top;
     if (scale == 1.0) {
-        BitBlt(target, client.left, client.top, width, height, dc.get(), client.left, client.top, SRCCOPY);
+        BitBlt(target, client.left, client.top, shownWidth, shownHeight, dc.get(), client.left, client.top,
+               SRCCOPY);
         return;
     }
     SetStretchBltMode(target, HALFTONE);
     // The source's y is the left edge too: both are 0 for a client rectangle.
-    StretchBlt(target, client.left, client.top, width, height, dc.get(), client.left, client.left,
-               static_cast<int>(width * scale), static_cast<int>(height * scale), SRCCOPY);
+    StretchBlt(target, client.left, client.top, shownWidth, shownHeight, dc.get(), client.left, client.left,
+               static_cast<int>(shownWidth * scale), static_cast<int>(shownHeight * scale), SRCCOPY);
 }
 
 } // namespace zq::LM

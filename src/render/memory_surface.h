@@ -15,8 +15,11 @@ public:
     MemorySurface& operator=(const MemorySurface&) = delete;
 
     // Makes a bitmap of the window's format, transparent all over. On failure there is no surface.
-    void Create(HWND window, int width, int height);
+    void Create(HWND window, int newWidth, int newHeight);
     void Release();
+
+    // Makes all of it transparent again. Does nothing without a surface.
+    void Clear() const;
 
     HDC DC() const { return dc.get(); } // null while there is no surface
 
@@ -28,6 +31,8 @@ private:
     MemoryDC dc;
     GdiObject<HBITMAP> bitmap;
     std::optional<SelectedObject> selected;
+    int width = 0;
+    int height = 0;
 };
 
 } // namespace zq::LM

@@ -44,16 +44,17 @@ bool OverlayWindow::RegisterWindowClass(HMODULE module, WNDPROC procedure)
     return RegisterClassExW(&windowClass) != 0;
 }
 
-HWND OverlayWindow::Create()
+void OverlayWindow::Create()
 {
     DWORD extendedStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
     if (GetRenderingType() == RenderingType::DirectComposition) {
         extendedStyle |= WS_EX_NOREDIRECTIONBITMAP; // shows its composition visual and nothing else
     }
     const RECT place = ShellWindowRect().value_or(screen);
-    return CreateWindowExW(extendedStyle, className, L"Lumora DLL Window", WS_POPUP | WS_VISIBLE, place.left,
-                           place.top, Width(place), Height(place), nullptr, nullptr, windowClass.hInstance,
-                           nullptr);
+    isCreating = true;
+    CreateWindowExW(extendedStyle, className, L"Lumora DLL Window", WS_POPUP | WS_VISIBLE, place.left,
+                    place.top, Width(place), Height(place), nullptr, nullptr, windowClass.hInstance, nullptr);
+    isCreating = false;
 }
 
 LRESULT OverlayWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
@@ -103,6 +104,9 @@ LRESULT OverlayWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM
         return result;
     }
     default:
+        if (message == shellRestarted && shellRestarted != 0) {
+            events.OnShellRestarted();
+        }
         return DefWindowProcW(handle, message, wParam, lParam);
     }
 }
@@ -123,8 +127,10 @@ LRESULT OverlayWindow::ServeTrayMessage_(HWND handle, WPARAM wParam, LPARAM lPar
 
 bool OverlayWindow::Owns(HWND handle, UINT message) const
 {
-    return handle == window || (window == nullptr && message == WM_CREATE);
+    return handle == window || (window == nullptr && isCreating && message == WM_CREATE);
 }
+
+void OverlayWindow::ListenForShell() { shellRestarted = RegisterWindowMessageW(L"TaskbarCreated"); }
 
 void OverlayWindow::MeasurePixels()
 {

@@ -27,8 +27,9 @@ public:
     // a window that is left behind keeps living with its own.
     bool RegisterWindowClass(HMODULE module, WNDPROC procedure);
 
-    // Creates the window; its creation messages arrive before this returns. Null on failure.
-    HWND Create();
+    // Creates the window, whose creation messages arrive before this returns: by then the handle is known, or
+    // there is none.
+    void Create();
 
     // Serves one message of this window, by its table.
     LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
@@ -39,6 +40,7 @@ public:
     HWND Handle() const { return window; } // null before creation and after destruction
 
     // Steps of creation and set-up.
+    void ListenForShell(); // from now on the restart of the shell is an event
     void MeasurePixels();
     void StartTimer();
     void StopTimer() { timer.Stop(); }
@@ -54,6 +56,7 @@ public:
     void Invalidate();
 
     const RECT& Screen() const { return screen; }
+    bool IsScreenEmpty() const { return IsRectEmpty(&screen) != 0; }
     PixelDensity Density() const { return pixelsPerMm; }
 
 private:
@@ -61,6 +64,8 @@ private:
 
     WindowEvents& events;
     HWND window = nullptr;
+    bool isCreating = false;
+    UINT shellRestarted = 0; // a message that the system numbers; 0 while nobody listens
     WNDCLASSEXW windowClass{};
     wchar_t className[256]{};
     RECT screen; // the shell's desktop, or a stand-in when there is no shell

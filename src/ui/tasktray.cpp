@@ -1,6 +1,8 @@
 // The icon in the shell's notification area, and the pop-up of its menu.
 #include "ui/tasktray.h"
 
+#include <utility>
+
 namespace sc::WinGui {
 
 // By its size the shell tells the forms of the record apart; this is the newest.
@@ -21,7 +23,11 @@ int Tasktray::Show()
     if (window == nullptr || module == nullptr || message == 0) {
         return -1;
     }
+    const zq::LM::Hold hold(*this);
     Remove_();
+    if (!Lives()) {
+        return -1;
+    }
     // The icon's first picture, since no size is asked for. Not shared, so it is destroyed here in the end.
     loadedIcon.reset(static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(iconId), IMAGE_ICON, 0, 0, 0)));
     data = {};
@@ -33,25 +39,29 @@ int Tasktray::Show()
     data.hIcon = loadedIcon.get();
     CopyTip_();
     iconShown = Shell_NotifyIconW(NIM_ADD, &data) != 0;
+    if (!Lives()) {
+        Remove_();
+    }
     return iconShown ? 0 : -1;
 }
 
-void Tasktray::PopUp(HMENU submenu) const
+void Tasktray::PopUp(HMENU submenu)
 {
-    const HWND owner = window;
+    const zq::LM::Hold hold(*this);
     POINT cursor{};
     // Neither result matters: a menu in the corner or behind another window is better than none.
     GetCursorPos(&cursor);
-    SetForegroundWindow(owner);
-    // The choice arrives as a command. False means a menu that is open already, which is just as well.
-    TrackPopupMenu(submenu, TPM_BOTTOMALIGN, cursor.x, cursor.y, 0, owner, nullptr);
+    SetForegroundWindow(window);
+    if (Lives()) {
+        // The choice arrives as a command. False means a menu that is open already, which is just as well.
+        TrackPopupMenu(submenu, TPM_BOTTOMALIGN, cursor.x, cursor.y, 0, window, nullptr);
+    }
 }
 
 void Tasktray::Remove_()
 {
-    if (iconShown) {
+    if (std::exchange(iconShown, false)) {
         Shell_NotifyIconW(NIM_DELETE, &data); // the shell may have ended before; there is then no icon
-        iconShown = false;
     }
     loadedIcon.reset();
 }

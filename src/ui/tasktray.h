@@ -1,6 +1,7 @@
 // The icon in the shell's notification area, and the pop-up of its menu.
 #pragma once
 
+#include "platform/endable.h"
 #include "platform/win32/windows_header.h"
 
 #include <shellapi.h>
@@ -19,10 +20,10 @@ struct IconDeleter {
 using Icon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDeleter>;
 
 // Belongs to the thread of its window. Takes the icon away at its end, whether the window still lives or not.
-class Tasktray {
+class Tasktray final : public zq::LM::Endable {
 public:
     Tasktray() = default;
-    ~Tasktray();
+    ~Tasktray() override;
     Tasktray(const Tasktray&) = delete;
     Tasktray& operator=(const Tasktray&) = delete;
 
@@ -30,13 +31,16 @@ public:
     void SetUp(HWND owner, HMODULE resources, UINT callbackMessage, UINT icon);
     void SetTip(std::wstring_view text) { tip = text; }
 
-    // 0, or -1 when it is not set up or the shell refuses the icon.
+    // 0, or -1 when it is not set up, the shell refuses the icon, or this object is ended meanwhile. Again,
+    // it puts a new icon in place of the old one.
     int Show();
 
-    // Opens the menu at the cursor and returns when it is closed. This object may be gone by then.
-    void PopUp(HMENU submenu) const;
+    // Opens the menu at the cursor and returns when it is closed. The menu's owner may have ended this object
+    // by then.
+    void PopUp(HMENU submenu);
 
 private:
+    void OnEnd() override { Remove_(); }
     void Remove_();
     void CopyTip_();
 

@@ -11,6 +11,7 @@ public:
     virtual void OnTick() = 0;
     virtual void OnCommand(unsigned id) = 0;
     virtual void OnMenuWanted() = 0; // by the mouse on the tray icon or by the hotkey
+    virtual void OnShellRestarted() = 0;
 
 protected:
     ~WindowEvents() = default;

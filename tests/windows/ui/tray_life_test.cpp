@@ -114,6 +114,33 @@ TEST_F(TrayLifeTest, AReplacedInstanceGivesAllBackBeforeItMakesThemAnew)
     EXPECT_NE(added.hWnd, old);
 }
 
+TEST_F(TrayLifeTest, ARestartedShellGetsTheIconAgain)
+{
+    CreateWithTray();
+    EXPECT_EQ(SendMessageW(window, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0), 0);
+    EXPECT_EQ(calls.Take(), (Lines{"Shell_NotifyIconW(2, *)", "DestroyIcon(*)", "Shell_NotifyIconW(0, *)"}));
+    EXPECT_EQ(added.hWnd, window);
+    EXPECT_STREQ(added.szTip, L"Lumora Core");
+}
+
+TEST_F(TrayLifeTest, AShellThatComesLateGetsTheIcon)
+{
+    shellAnswer = FALSE;
+    CreateWithTray();
+    shellAnswer = TRUE;
+    SendMessageW(window, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+    EXPECT_EQ(calls.Take(), (Lines{"DestroyIcon(*)", "Shell_NotifyIconW(0, *)"}));
+    library.Destroy();
+    EXPECT_EQ(calls.Of("Shell_NotifyIconW"), Lines{"Shell_NotifyIconW(2, *)"});
+}
+
+TEST_F(TrayLifeTest, ARestartedShellGetsNothingOfAnOverlayWithoutUserInterface)
+{
+    HWND plain = library.Create();
+    SendMessageW(plain, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+    EXPECT_EQ(calls.Take(), Lines{});
+}
+
 TEST_F(TrayLifeTest, AnIconThatTheShellRefusesIsLeftOutInSilence)
 {
     shellAnswer = FALSE;

@@ -150,4 +150,34 @@ TEST_F(LeftWindowTest, SeveralAreLeftByAsManyChanges)
     EXPECT_FALSE(IsWindow(third));
 }
 
+// A host may unload the library; the window procedure of a window that was left must stay.
+TEST(UnloadedLibrary, StaysForAWindowThatWasLeft)
+{
+    HWND left = nullptr;
+    {
+        const Library library;
+        const NoGraphicsDevice noDevice(library.Module());
+        left = library.Create();
+        SendMessageW(left, WM_COMMAND, ChooseGDI, 0);
+        library.InputPenDataArray(nullptr, 0);
+        library.Destroy();
+    }
+    EXPECT_NE(GetModuleHandleW(L"LumoraDLL.dll"), nullptr);
+    ASSERT_TRUE(IsWindow(left));
+    SendMessageW(left, WM_SETTINGCHANGE, 0, 0); // as a broadcast reaches every window
+    DestroyWindow(left);
+    EXPECT_FALSE(IsWindow(left));
+}
+
+TEST(UnloadedLibrary, GoesWhenNoWindowWasLeft)
+{
+    {
+        const Library library;
+        const NoGraphicsDevice noDevice(library.Module());
+        library.Create();
+        library.Destroy();
+    }
+    EXPECT_EQ(GetModuleHandleW(L"LumoraDLL.dll"), nullptr);
+}
+
 } // namespace zq::LM::test

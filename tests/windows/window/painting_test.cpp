@@ -57,16 +57,20 @@ TEST_F(PaintingTest, ForDirectCompositionOnlyTheBackEndDraws)
               (Lines{"GetShellWindow()", "BeginPaint(window 1, *)", "EndPaint(window 1, *)"}));
 }
 
-TEST_F(PaintingTest, WithoutAMemorySurfaceNothingIsDrawnOrCopied)
+TEST_F(PaintingTest, WithoutAMemorySurfaceOneIsTriedAgainAndTheWindowIsCleared)
 {
     SelectGDI();
     calls.Answer<"CreateCompatibleBitmap">("GDI32.dll", CreateCompatibleBitmap,
                                            [](HDC, int, int) -> HBITMAP { return nullptr; });
     HWND window = CreateRecorded();
     EXPECT_EQ(CallsOfOnePaint(window),
-              (Lines{"GetShellWindow()", "BeginPaint(window 1, *)", "GetDC(window 1)",
-                     "SetBkColor(dc of window 1, 0xFF00FF)", "ReleaseDC(window 1, dc of window 1)",
-                     "EndPaint(window 1, *)"}));
+              (Lines{"GetShellWindow()", "GetShellWindow()", "GetDC(window 1)",
+                     "CreateCompatibleDC(dc of window 1)", "CreateCompatibleBitmap(dc of window 1, 640, 480)",
+                     "DeleteDC(memory dc)", "ReleaseDC(window 1, dc of window 1)", "BeginPaint(window 1, *)",
+                     "GetDC(window 1)", "SetBkColor(dc of window 1, 0xFF00FF)", "GetDC(window 1)",
+                     "CreateSolidBrush(0xFF00FF)", "PatBlt(dc of window 1, 0, 0, 640, 480, 0xF00021)",
+                     "DeleteObject(brush 0xFF00FF)", "ReleaseDC(window 1, dc of window 1)",
+                     "ReleaseDC(window 1, dc of window 1)", "EndPaint(window 1, *)"}));
     EXPECT_FALSE(IsInvalid());
 }
 

@@ -1,0 +1,159 @@
+// Every call of the library in which code of the host can run, and everything that the host may do there.
+#include "windows/interface/interrupting_host.h"
+
+#include <commdlg.h>
+#include <shellapi.h>
+
+#include <set>
+
+namespace zq::LM::test {
+
+namespace {
+
+BOOL WINAPI ShellTakesIcon(DWORD, NOTIFYICONDATAW*) { return TRUE; }
+BOOL WINAPI MenuCloses(HMENU, UINT, int, int, int, HWND, const RECT*) { return TRUE; }
+BOOL WINAPI NobodyChooses(OPENFILENAMEA*) { return FALSE; }
+BOOL WINAPI ComesForward(HWND) { return TRUE; }
+
+bool IsOfLibrary(HWND window)
+{
+    wchar_t name[64]{};
+    GetClassNameW(window, name, 64);
+    const std::wstring_view text = name;
+    return text.starts_with(L"Lumora Window Class_") || text == L"#32770";
+}
+
+} // namespace
+
+class Interruption : public InterruptingHost {
+public:
+    // The system's calls in which host code runs.
+    void CreateWindows() { Interrupt<"CreateWindowExW">("USER32.dll", CreateWindowExW); }
+    void DestroyWindows() { Interrupt<"DestroyWindow">("USER32.dll", ::DestroyWindow); }
+    void MoveWindows() { Interrupt<"SetWindowPos">("USER32.dll", SetWindowPos); }
+    void StyleWindows() { Interrupt<"SetWindowLongW">("USER32.dll", SetWindowLongW); }
+    void LayerWindows() { Interrupt<"SetLayeredWindowAttributes">("USER32.dll", SetLayeredWindowAttributes); }
+    void BeginPaints() { Interrupt<"BeginPaint">("USER32.dll", BeginPaint); }
+    void EndPaints() { Interrupt<"EndPaint">("USER32.dll", EndPaint); }
+    void NotifyShell() { Interrupt<"Shell_NotifyIconW">("SHELL32.dll", ShellTakesIcon); }
+    void ComeForward() { Interrupt<"SetForegroundWindow">("USER32.dll", ComesForward); }
+    void OpenMenus() { Interrupt<"TrackPopupMenu">("USER32.dll", MenuCloses); }
+    void DestroyMenus() { Interrupt<"DestroyMenu">("USER32.dll", ::DestroyMenu); }
+    void AskForFiles() { Interrupt<"GetSaveFileNameA">("COMDLG32.dll", NobodyChooses); }
+    void CreateDialogs() { Interrupt<"CreateDialogParamW">("USER32.dll", CreateDialogParamW); }
+    void SendMessages() { Interrupt<"SendMessageW">("USER32.dll", ::SendMessageW); }
+    void EndDialogs() { Interrupt<"EndDialog">("USER32.dll", EndDialog); }
+    void RegisterHotkeys() { Interrupt<"RegisterHotKey">("USER32.dll", TakesHotkey); }
+    void WriteLog() { Interrupt<"OutputDebugStringW">("KERNEL32.dll", ::OutputDebugStringW); }
+
+protected:
+    static BOOL WINAPI TakesHotkey(HWND, int, UINT, UINT) { return TRUE; }
+
+    // What would wait for a person, or reach the shell, is answered; a test may put an interruption on top.
+    Interruption()
+    {
+        calls.Answer<"Shell_NotifyIconW">("SHELL32.dll", Shell_NotifyIconW, ShellTakesIcon);
+        calls.Answer<"TrackPopupMenu">("USER32.dll", TrackPopupMenu, MenuCloses);
+        calls.Answer<"GetSaveFileNameA">("COMDLG32.dll", GetSaveFileNameA, NobodyChooses);
+        calls.Answer<"SetForegroundWindow">("USER32.dll", SetForegroundWindow, ComesForward);
+        Select(ChooseGDI);
+    }
+
+    // Lives, interrupted once at each call in turn, until there is none left to interrupt.
+    void InterruptEachCall(Moment moment, const Action& action);
+};
+
+void Interruption::InterruptEachCall(Moment moment, const Action& action)
+{
+    constexpr unsigned Plenty = 200;
+    for (unsigned number = 1; number < Plenty && !HasFailure(); ++number) {
+        SCOPED_TRACE(action.name + std::string(" in call ") + std::to_string(number));
+        Choose(ChooseGDI);
+        memory.KeepFreed();
+        Arm(moment, number, [this, &action] { (this->*action.run)(); });
+        Live();
+        const bool wasInterrupted = HasFired();
+        ExpectIntact();
+        if (!wasInterrupted) {
+            EXPECT_GT(number, 1U) << "the call is never made";
+            return;
+        }
+    }
+}
+
+struct Call {
+    const char* name;
+    void (Interruption::*interrupt)();
+};
+
+class EachCall : public Interruption, public testing::WithParamInterface<Call> {};
+
+TEST_P(EachCall, MayBeInterruptedByAnything)
+{
+    (this->*GetParam().interrupt)();
+    for (const Action& action : Actions) {
+        for (const Moment moment : {Moment::Before, Moment::After}) {
+            InterruptEachCall(moment, action);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, EachCall,
+                         testing::Values(Call{"CreateWindowExW", &Interruption::CreateWindows},
+                                         Call{"DestroyWindow", &Interruption::DestroyWindows},
+                                         Call{"SetWindowPos", &Interruption::MoveWindows},
+                                         Call{"SetWindowLongW", &Interruption::StyleWindows},
+                                         Call{"SetLayeredWindowAttributes", &Interruption::LayerWindows},
+                                         Call{"BeginPaint", &Interruption::BeginPaints},
+                                         Call{"EndPaint", &Interruption::EndPaints},
+                                         Call{"Shell_NotifyIconW", &Interruption::NotifyShell},
+                                         Call{"SetForegroundWindow", &Interruption::ComeForward},
+                                         Call{"TrackPopupMenu", &Interruption::OpenMenus},
+                                         Call{"GetSaveFileNameA", &Interruption::AskForFiles},
+                                         Call{"CreateDialogParamW", &Interruption::CreateDialogs},
+                                         Call{"SendMessageW", &Interruption::SendMessages},
+                                         Call{"EndDialog", &Interruption::EndDialogs}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// The messages of the library's windows, which a hook or a subclass of the host sees before the library does.
+class EachMessage : public Interruption, public testing::WithParamInterface<UINT> {
+protected:
+    EachMessage()
+    {
+        g_current = this;
+        hook = SetWindowsHookExW(WH_CALLWNDPROC, Hook_, nullptr, GetCurrentThreadId());
+    }
+    ~EachMessage() override
+    {
+        UnhookWindowsHookEx(hook);
+        g_current = nullptr;
+    }
+
+private:
+    static LRESULT CALLBACK Hook_(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (sent.message == GetParam() && IsOfLibrary(sent.hwnd)) {
+            g_current->Reach(Moment::Before);
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    inline static EachMessage* g_current = nullptr;
+    HHOOK hook;
+};
+
+TEST_P(EachMessage, MayBeInterruptedByAnything)
+{
+    for (const Action& action : Actions) {
+        InterruptEachCall(Moment::Before, action);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Messages, EachMessage,
+                         testing::Values(WM_NCCREATE, WM_CREATE, WM_WINDOWPOSCHANGED, WM_SHOWWINDOW,
+                                         WM_STYLECHANGED, WM_ERASEBKGND, WM_PAINT, WM_INITDIALOG,
+                                         WM_SYSCOMMAND, WM_DESTROY, WM_NCDESTROY),
+                         [](const auto& info) { return "Number" + std::to_string(info.param); });
+
+} // namespace zq::LM::test
