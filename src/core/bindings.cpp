@@ -12,12 +12,12 @@ namespace zq::LM {
 
 namespace {
 
-Core* g_core = nullptr;   // the Core whose window was created last; never cleared
-bool g_coreLives = false; // whether it still exists
+Core* g_core = nullptr;   // null until the first window; not to be followed unless it lives
+bool g_coreLives = false; // told by the Core itself
 
 Core* LivingCore() { return g_coreLives ? g_core : nullptr; }
 
-// A frame's brackets need a window to show it.
+// Without a window nobody would see the frame.
 DrawingLib* WindowedBackEnd()
 {
     Core* core = LivingCore();

@@ -22,15 +22,12 @@
 
 namespace zq::LM {
 
-// Pen input comes on the host's thread; the window's timer and painting on the window's, which is the same
-// one in normal use. Nothing here is locked: only the ink engine guards its own data.
-//
-// Whoever calls a public function that can run host code need not hold the Core: it holds itself.
+// For one thread, the window's. A public function that can run host code holds the Core itself.
 class Core final : public Endable, private WindowEvents {
 public:
     using BackEnds = std::vector<std::unique_ptr<DrawingLib>>;
 
-    // The creation value is kept for the Core that follows a change of the back-end. Raises std::bad_alloc.
+    // The creation value is only handed on, to the Core of a rebuild. Raises std::bad_alloc.
     Core(HMODULE module, unsigned creationValue);
     ~Core() override;
     Core(const Core&) = delete;
@@ -40,7 +37,7 @@ public:
     // ended this Core meanwhile.
     HWND CreateOverlayWindow();
 
-    // Null before the window exists and after its destruction.
+    // Null unless there is a living window.
     HWND Window() const { return window.Handle(); }
     bool Owns(HWND handle, UINT message) const { return window.Owns(handle, message); }
     LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);

@@ -25,7 +25,7 @@ HWND Core::CreateOverlayWindow()
     if (!window.RegisterWindowClass(module, WindowProcedure)) {
         return nullptr;
     }
-    SetWindowCore(this); // before the window exists: its creation messages come here
+    SetWindowCore(this); // now, since the creation sends messages already
     window.Create();
     if (HasWindow_()) {
         SetUpWindow_();
@@ -78,7 +78,7 @@ void Core::SetUpWindow_()
     if (isFitted) {
         ClearWindowIfMemoryDrawn_();
     }
-    // A first, empty frame. The memory bitmap does not exist yet, so only DirectComposition shows it.
+    // The first frame is for DirectComposition, which shows nothing defined before: no bitmap exists yet.
     if (drawing != nullptr) {
         drawing->ClearLivePenData();
     }
@@ -231,7 +231,7 @@ void Core::ShowMemory_(HDC target)
     memorySurface.CopyTo(target, client, renderScale);
 }
 
-// Repaints during drawing come from pen input; a tick only wipes the last ink.
+// Each input brings a paint along. Only when the last ink has aged there is none to wait for.
 void Core::OnTick()
 {
     if (window.IsScreenEmpty()) {

@@ -45,13 +45,13 @@ void EndInstance()
     if (ending == nullptr || ending->core == nullptr) {
         return;
     }
-    // The window before its Core: its last messages still find a living one.
+    // Its last messages need the Core: the quit message is posted by it.
     if (HWND window = ending->core->Window(); window != nullptr && DestroyWindow(window) == 0) {
         KeepLibraryLoaded(); // another thread's
     }
 }
 
-// The old window is left in place, cleared, under the new one.
+// The old window is only wiped: destroying it would tell the host to quit.
 void Rebuild()
 {
     const LifeChange change;

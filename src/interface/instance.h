@@ -10,16 +10,16 @@
 
 namespace zq::LM {
 
-// Owns the current Core, which a change of the back-end replaces while the holder stays.
+// There is an instance while there is a holder, and for the time of a rebuild it may have no Core.
 struct CoreHolder {
     Owned<Core> core;
 };
 
-// Exists from creation to destruction. A plain pointer: a process that ends without destroying its instance
-// leaves it to the system, since nothing may be released while the library is unloaded.
+// A plain pointer: a process that ends without destroying its instance leaves it to the system, since nothing
+// may be released while the library is unloaded.
 extern CoreHolder* g_coreHolder;
 
-// The library's own module, whatever the host's is.
+// Where the library's resources are.
 extern HMODULE g_module;
 
 // The current Core and its window, or null.
