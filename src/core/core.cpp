@@ -179,6 +179,7 @@ void Core::InputPenData(const PenData* samples, std::size_t count)
     PassParams_();
     if (count != 0) {
         if (drawing != nullptr) {
+            const DrawingScope scope(*this);
             drawing->AddPenDataAry(samples, count);
         }
         lastPenData = samples[count - 1];

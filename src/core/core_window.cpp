@@ -241,6 +241,7 @@ void Core::OnTick()
     if (drawing == nullptr || !Lives()) {
         return;
     }
+    const DrawingScope scope(*this);
     drawing->DeleteOldPenData();
     const std::int64_t liveCount = drawing->LivePointsNum();
     if (liveCount == 0 && g_previousLiveCount != 0) {

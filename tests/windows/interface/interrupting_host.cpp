@@ -8,9 +8,10 @@
 
 namespace zq::LM::test {
 
-const std::array<InterruptingHost::Action, 4> InterruptingHost::Actions = {{
+const std::array<InterruptingHost::Action, 5> InterruptingHost::Actions = {{
     {"destroys", &InterruptingHost::DestroyInside},
     {"creates", &InterruptingHost::CreateInside},
+    {"creates, and destroys within", &InterruptingHost::CreateAndDestroyInside},
     {"rebuilds", &InterruptingHost::RebuildInside},
     {"uses", &InterruptingHost::UseInside},
 }};
@@ -28,6 +29,13 @@ void InterruptingHost::Reach(Moment moment)
         std::exchange(action, nullptr)();
         CheckHandle(library.GetWindowHandle());
     }
+}
+
+void InterruptingHost::CreateAndDestroyInside()
+{
+    Arm(armedMoment, 1, [this] { library.Destroy(); });
+    CreateInside();
+    Disarm();
 }
 
 // The window knows by then that another back-end is wanted, if there is a window.

@@ -44,10 +44,11 @@ protected:
         const char* name;
         void (InterruptingHost::*run)();
     };
-    static const std::array<Action, 4> Actions;
+    static const std::array<Action, 5> Actions;
 
     void DestroyInside() { library.Destroy(); }
     void CreateInside() { CheckHandle(library.Create()); }
+    void CreateAndDestroyInside(); // destroys in the next such call, which belongs to that creation
     void RebuildInside();
     void UseInside(); // everything that neither makes nor ends an instance
 

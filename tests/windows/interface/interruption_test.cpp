@@ -1,10 +1,12 @@
 // Every call of the library in which code of the host can run, and everything that the host may do there.
 #include "windows/interface/interrupting_host.h"
+#include "windows/ui/tray_test.h"
 
 #include <commdlg.h>
 #include <shellapi.h>
 
-#include <set>
+#include <string_view>
+#include <utility>
 
 namespace zq::LM::test {
 
@@ -13,6 +15,7 @@ namespace {
 BOOL WINAPI ShellTakesIcon(DWORD, NOTIFYICONDATAW*) { return TRUE; }
 BOOL WINAPI MenuCloses(HMENU, UINT, int, int, int, HWND, const RECT*) { return TRUE; }
 BOOL WINAPI NobodyChooses(OPENFILENAMEA*) { return FALSE; }
+void WINAPI DebuggerReads(LPCWSTR) {}
 BOOL WINAPI ComesForward(HWND) { return TRUE; }
 
 bool IsOfLibrary(HWND window)
@@ -43,12 +46,9 @@ public:
     void CreateDialogs() { Interrupt<"CreateDialogParamW">("USER32.dll", CreateDialogParamW); }
     void SendMessages() { Interrupt<"SendMessageW">("USER32.dll", ::SendMessageW); }
     void EndDialogs() { Interrupt<"EndDialog">("USER32.dll", EndDialog); }
-    void RegisterHotkeys() { Interrupt<"RegisterHotKey">("USER32.dll", TakesHotkey); }
-    void WriteLog() { Interrupt<"OutputDebugStringW">("KERNEL32.dll", ::OutputDebugStringW); }
+    void WriteLog() { Interrupt<"OutputDebugStringW">("KERNEL32.dll", DebuggerReads); }
 
 protected:
-    static BOOL WINAPI TakesHotkey(HWND, int, UINT, UINT) { return TRUE; }
-
     // What would wait for a person, or reach the shell, is answered; a test may put an interruption on top.
     Interruption()
     {
@@ -112,7 +112,8 @@ INSTANTIATE_TEST_SUITE_P(Calls, EachCall,
                                          Call{"GetSaveFileNameA", &Interruption::AskForFiles},
                                          Call{"CreateDialogParamW", &Interruption::CreateDialogs},
                                          Call{"SendMessageW", &Interruption::SendMessages},
-                                         Call{"EndDialog", &Interruption::EndDialogs}),
+                                         Call{"EndDialog", &Interruption::EndDialogs},
+                                         Call{"OutputDebugStringW", &Interruption::WriteLog}),
                          [](const auto& info) { return std::string(info.param.name); });
 
 // The messages of the library's windows, which a hook or a subclass of the host sees before the library does.
@@ -155,5 +156,69 @@ INSTANTIATE_TEST_SUITE_P(Messages, EachMessage,
                                          WM_STYLECHANGED, WM_ERASEBKGND, WM_PAINT, WM_INITDIALOG,
                                          WM_SYSCOMMAND, WM_DESTROY, WM_NCDESTROY),
                          [](const auto& info) { return "Number" + std::to_string(info.param); });
+
+// The plainest case, without any hook: a window of the host's that ends the overlay when it loses the
+// activation.
+class HostWindow : public Interruption {
+protected:
+    HostWindow()
+    {
+        g_action = nullptr;
+        window = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 60, 180, 120,
+                                 nullptr, nullptr, nullptr, nullptr);
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure_));
+        SetActiveWindow(window);
+        memory.KeepFreed();
+    }
+    ~HostWindow() override
+    {
+        g_action = nullptr;
+        ::DestroyWindow(window);
+    }
+
+    // When the host's window has lost the activation, once.
+    void Await(std::function<void()> action) { g_action = std::move(action); }
+    static bool HasHappened() { return !g_action; }
+
+    HWND window;
+
+private:
+    static LRESULT CALLBACK Procedure_(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == WM_ACTIVATE && LOWORD(wParam) == WA_INACTIVE && g_action) {
+            std::exchange(g_action, nullptr)();
+        }
+        return DefWindowProcW(handle, message, wParam, lParam);
+    }
+
+    inline static std::function<void()> g_action;
+};
+
+TEST_F(HostWindow, MayEndTheInstanceWhenTheDialogTakesTheActivation)
+{
+    for (const Action& action : Actions) {
+        SCOPED_TRACE(action.name);
+        memory.KeepFreed();
+        const HWND overlay = library.Create();
+        SetActiveWindow(window);
+        Await([this, &action] { (this->*action.run)(); });
+        SendMessageW(overlay, WM_COMMAND, SettingsCommand, 0);
+        EXPECT_TRUE(HasHappened());
+        ExpectIntact();
+    }
+}
+
+TEST_F(HostWindow, MayEndTheInstanceWhenTheOverlayTakesTheActivation)
+{
+    for (const Action& action : Actions) {
+        SCOPED_TRACE(action.name);
+        memory.KeepFreed();
+        SetActiveWindow(window);
+        Await([this, &action] { (this->*action.run)(); });
+        CheckHandle(library.Create());
+        EXPECT_TRUE(HasHappened());
+        ExpectIntact();
+    }
+}
 
 } // namespace zq::LM::test
