@@ -162,6 +162,7 @@ GraphicsRecorder::GraphicsRecorder()
     patches.push_back(Patch<"GdipDeletePen", "", decltype(flat::GdipDeletePen)>(GdiPlus));
     patches.push_back(Patch<"GdipSetPenStartCap", "", decltype(flat::GdipSetPenStartCap)>(GdiPlus));
     patches.push_back(Patch<"GdipSetPenEndCap", "", decltype(flat::GdipSetPenEndCap)>(GdiPlus));
+    patches.push_back(Patch<"GdipDrawLine", "", decltype(flat::GdipDrawLine)>(GdiPlus));
     patches.push_back(Patch<"GdipDrawLineI", "", decltype(flat::GdipDrawLineI)>(GdiPlus));
 }
 
