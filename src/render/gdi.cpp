@@ -42,7 +42,7 @@ bool GDI::Clear()
     // The window's rectangle, not scaled, even where the bitmap is.
     RECT client{};
     GetClientRect(window, &client);
-    FillRectangle(dc, client, keyColour);
+    FillRectangle(dc, client, keyColour); // failed, the frame is drawn over the one before
     return true;
 }
 

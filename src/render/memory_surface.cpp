@@ -6,7 +6,7 @@
 
 namespace zq::LM {
 
-void MemorySurface::Create(HWND window, int width, int height)
+bool MemorySurface::Create(HWND window, int width, int height)
 {
     Release();
     const WindowDC windowDC(window);
@@ -14,11 +14,15 @@ void MemorySurface::Create(HWND window, int width, int height)
     bitmap.reset(CreateCompatibleBitmap(windowDC.Get(), width, height));
     if (dc == nullptr || bitmap == nullptr) {
         Release();
-        return;
+        return false;
     }
     selected.emplace(dc.get(), bitmap.get());
-    // A new bitmap is black, and a back-end may fail to draw on it or not reach all of it.
-    FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey);
+    // A new bitmap is black, and a back-end may fail to draw on it or not reach all of it: better none.
+    if (!selected->IsSelected() || !FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey)) {
+        Release();
+        return false;
+    }
+    return true;
 }
 
 void MemorySurface::Release()

@@ -14,8 +14,9 @@ public:
     MemorySurface(const MemorySurface&) = delete;
     MemorySurface& operator=(const MemorySurface&) = delete;
 
-    // Makes a bitmap of the window's format, transparent all over. On failure there is no surface.
-    void Create(HWND window, int width, int height);
+    // Makes a bitmap of the window's format, transparent all over. False when there is no surface; a later
+    // try may succeed.
+    bool Create(HWND window, int width, int height);
     void Release();
 
     HDC DC() const { return dc.get(); } // null while there is no surface

@@ -143,6 +143,7 @@ GraphicsRecorder::GraphicsRecorder()
     patches.push_back(Patch<"SelectObject", "previous", decltype(::SelectObject)>(Gdi));
     patches.push_back(Patch<"DeleteObject", "", decltype(::DeleteObject)>(Gdi));
     patches.push_back(Patch<"DeleteDC", "", decltype(::DeleteDC)>(Gdi));
+    patches.push_back(Patch<"SetDCBrushColor", "", decltype(::SetDCBrushColor)>(Gdi));
     patches.push_back(Patch<"PatBlt", "", decltype(::PatBlt)>(Gdi));
     patches.push_back(Patch<"BitBlt", "", decltype(::BitBlt)>(Gdi));
     patches.push_back(Patch<"StretchBlt", "", decltype(::StretchBlt)>(Gdi));
