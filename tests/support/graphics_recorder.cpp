@@ -108,7 +108,7 @@ struct Hook<Function, Made, Result(Arguments...)> {
             const Result result = original(arguments...);
             const void* made = AsHandle(result);
             (static_cast<void>(made = HandleIn(arguments) != nullptr ? HandleIn(arguments) : made), ...);
-            if (Made.text[0] != '\0') {
+            if constexpr (Made.text[0] != '\0') {
                 if (made != nullptr && NameOf(made) == "other") {
                     g_state.names[made] = Made.text;
                 }

@@ -3,6 +3,7 @@
 
 #include <commdlg.h>
 
+#include <algorithm>
 #include <string>
 
 namespace zq::LM::test {
@@ -57,7 +58,7 @@ TEST_P(RateFileDialogTest, RestoresAPathOfAnyLength)
                                              if (size <= length) {
                                                  return length + 1;
                                              }
-                                             path.copy(out, length);
+                                             std::copy(path.begin(), path.end(), out);
                                              out[length] = L'\0';
                                              return length;
                                          });
