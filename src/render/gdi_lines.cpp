@@ -11,8 +11,7 @@ namespace {
 
 namespace flat = Gdiplus::DllExports;
 
-// Wider than any screen. Beyond some width GDI+ computes outside its integers, and not every GDI+ survives
-// that.
+// Wider than any screen. Far beyond it GDI+ computes outside its integers, and not every GDI+ survives that.
 constexpr float WidestPen = 100'000.0F;
 
 // Nobody asks whether a step worked: GDI+ checks its arguments itself, so one that failed makes the following
@@ -50,8 +49,8 @@ private:
 
 bool IsVisible(const GdiLine& line) { return (line.colour & OpaqueAlpha) != 0; }
 
-// What a narrow brush's hollow stroke is erased with exceeds every bound, and is invisible: a thin pen leaves
-// the same pixels, where one as wide as the screen blends nothing into all of them.
+// The hollow stroke of a narrow brush is erased by a line wider than any screen, which is invisible here. A
+// thin pen leaves the same pixels; a wide one would take its time to blend nothing into all of them.
 float PenWidth(const GdiLine& line)
 {
     constexpr float ThinPen = 1.0F;
@@ -75,7 +74,7 @@ void DrawDot(const Graphics& graphics, const RoundPen& pen, int x, int y)
 
 } // namespace
 
-// Made anew for every segment: simple, and nothing is kept between calls.
+// Keeps nothing for the next one: a stroke has too few segments for that to show.
 void DrawGdiPlusLine(HDC dc, const GdiLine& line)
 {
     const Graphics graphics(dc);

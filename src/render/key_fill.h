@@ -5,7 +5,7 @@
 
 namespace zq::LM {
 
-// Fills a rectangle whose left and top are 0: right and bottom are used as width and height. False when
+// For client areas, whose left and top are 0: from another corner the fill would reach too far. False when
 // nothing was painted; no other colour is ever painted instead.
 bool FillRectangle(HDC dc, const RECT& rectangle, COLORREF colour);
 

@@ -21,8 +21,7 @@ public:
 
     HDC DC() const { return dc.get(); } // null while there is no surface
 
-    // Shows the surface on a window: as it is at a scale of 1, else stretched from a surface that is larger
-    // by the scale.
+    // `scale` is how many of its pixels make one of the window's.
     void CopyTo(HDC target, const RECT& client, double scale) const;
 
 private:
