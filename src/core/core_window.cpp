@@ -225,8 +225,9 @@ void Core::ShowMemory_(HDC target)
 {
     RECT client{};
     GetClientRect(Window(), &client);
-    if (g_renderingType != boundType) {
-        memorySurface.Clear(); // drawn by a back-end that does not know the key yet
+    // A back-end that has not been bound to the window does not know the key: nothing of it is shown.
+    if (g_renderingType != boundType && !memorySurface.Clear()) {
+        return;
     }
     memorySurface.CopyTo(target, client, renderScale);
 }

@@ -12,7 +12,7 @@
 
 namespace zq::LM {
 
-// What a frame draws with. Lines give both ends: x1, y1, width 1, colour 1, x2, y2, width 2, colour 2.
+// What a frame draws with. Lines take place, width and colour of one end and then of the other.
 using ClearFunction = std::function<void()>;
 using PresentFunction = std::function<void()>;
 using PickColorFunction = std::function<unsigned(bool clearFlag)>;
@@ -21,13 +21,13 @@ using DrawTextFunction = std::function<void(int x, int y, unsigned size, unsigne
 using DrawPenDataFunction =
     std::function<void(std::vector<PenData>* samples, unsigned brushSize, unsigned colour)>;
 
-// Line callables arrive with signed widths; the values pass through unchanged.
+// What may be bound for a line: it gets the same bits for its widths.
 using SignedLineFunction = std::function<void(int, int, int, unsigned, int, int, int, unsigned)>;
 
-// Samples go through two stages. The host's thread appends to the pending set under a mutex. Each frame, on
-// the overlay's thread, moves what is pending to the end of the live set, removes what is older than the ink
-// life and redraws the rest from scratch through the callbacks. Only the overlay's thread changes the live
-// set, so it reads it without the lock. The three mutexes are never held two at once.
+// A host that writes must not wait for a frame to be drawn. So input only fills a set of its own, and a frame
+// takes over what has come in before it draws: the lock is held while samples come, move over or go, and the
+// drawing, on the set that belongs to the overlay's thread, needs none. Samples, record and rate are locked
+// apart, and whoever holds one lock asks for no other.
 class Drawing {
 public:
     Drawing() = default;
@@ -40,13 +40,14 @@ public:
                       DrawPenDataFunction drawPenData);
     void SetDrawTextCallback(DrawTextFunction drawText);
 
-    // Factor for every coordinate and width; ignored unless above 0.
+    // How much larger to draw than the samples say. Nothing that would turn ink into a point or upside down
+    // is taken.
     void SetScale(double newScale);
 
-    // True hands outline-only strokes whole to the pen-data callback.
+    // For a back-end with hollow strokes of its own: it gets the samples themselves, not lines that draw one.
     void SetVectorOutline(bool on);
 
-    // Copies of the whole record, in and out. Null does nothing.
+    // Null is ignored.
     void SetParams(const Params* source);
     void GetCopiedParams(Params* out);
     std::uint32_t EnabledOptions(std::uint32_t mask);
@@ -57,10 +58,10 @@ public:
     // The overlay's thread.
     void DeleteOldPenData();
     std::int64_t LivePointsNum();
-    std::uint32_t PenReoprtRate(); // The spelling is the interface's own, in its log lines too.
+    std::uint32_t PenReoprtRate(); // spelt as the log spells it, which viewers search
     void ClearLivePenData();
 
-    // One frame. Raises std::bad_function_call when a callback that it needs is empty.
+    // One frame. What it needs must be bound: it raises std::bad_function_call otherwise.
     void DrawLumoraLines();
 
 private:
@@ -89,7 +90,7 @@ private:
     std::int32_t ScaledCoordinate_(std::int32_t value) const;
     std::uint32_t ScaledWidth_(std::uint32_t width) const;
 
-    std::mutex samplesMutex; // pendingSamples, livePointsNum, and every change of liveSamples
+    std::mutex samplesMutex; // for liveSamples only where it changes
     std::vector<PenData> liveSamples;
     std::vector<PenData> pendingSamples;
     std::int64_t livePointsNum = 0;
@@ -99,8 +100,8 @@ private:
     std::int32_t offsetY = -50; // up
     std::int32_t hollowInset = 4;
     double scale = 1.0;
-    Params params = DefaultParams; // frames read it without paramsMutex: a torn read mixes one frame at worst
-    std::mutex paramsMutex;        // whole copies into and out of params
+    Params params = DefaultParams; // not locked while drawing: a change in the middle spoils one frame only
+    std::mutex paramsMutex;        // for copies of the record
     std::mutex rateMutex;
     std::uint32_t penReportRate = 0; // samples per second
     bool vectorOutline = false;
@@ -109,7 +110,7 @@ private:
     PickColorFunction pickColorCallback;
     LineFunction drawLineCallback;
     LineFunction eraseLineCallback;
-    DrawTextFunction drawTextCallback; // held for hosts of the engine; no frame calls it
+    DrawTextFunction drawTextCallback; // no frame has text
     DrawPenDataFunction drawPenDataCallback;
 };
 

@@ -44,8 +44,7 @@ inline constexpr Params DefaultParams = {
     .reserved31 = 0,
 };
 
-// The flag bytes as a mask. The bits are not in the order of the bytes: both orders are part of the
-// interface.
+// One bit for each flag of the record, to ask for several at once. Their order is not the record's.
 struct DrawOption {
     enum : std::uint32_t {
         Cursor = 0x0001,
@@ -58,19 +57,18 @@ struct DrawOption {
     };
 };
 
-// The bits of `mask` whose flag byte is on (not 0).
+// Those of `mask` that are switched on.
 std::uint32_t EnabledOptions(const Params& params, std::uint32_t mask);
 
-// White on dark ink, black on light ink: dark is a sum of the three colour bytes below 384. The top byte does
-// not count.
+// What stands out against ink of this colour: white, or black from a middle grey on.
 std::uint32_t ContrastColour(std::uint32_t inkColor);
 
-// The stroke width for a pressure: pressure / maxPressure * brushSize, rounded, at least minBrushSize and
-// then at most brushSize. The upper bound comes last, so a minBrushSize above brushSize gives brushSize.
+// In proportion to the pressure, but a light touch does not vanish. Of two bounds that contradict each other
+// the brush's own holds.
 std::uint32_t PressureWidth(const Params& params, std::int32_t pressure);
 
-// The width of a segment whose newer sample has this pressure: by pressure, or brushSize when usePressure is
-// 0.
+// A segment is as wide all along as at its later end, where this is the pressure. A record may ask for one
+// width whatever the pressure.
 std::uint32_t SegmentWidth(const Params& params, std::int32_t pressure);
 
 } // namespace zq::LM

@@ -20,7 +20,7 @@ static_assert(offsetof(PenData, aux6) == 24);
 static_assert(offsetof(PenData, aux7) == 28);
 static_assert(offsetof(PenData, aux8) == 32);
 
-// A pen touches from a pressure of 1 on; below that it hovers.
+// Hosts say that the pen has left the surface by a pressure of 0. No pen reports a negative one.
 inline bool Touches(const PenData& sample) { return sample.pressure >= 1; }
 
 } // namespace zq::LM

@@ -70,7 +70,7 @@ void Drawing::AddPenDataAry(const PenData* samples, std::size_t count) { AddPenD
 
 void Drawing::AddPenDataAryCore_(const PenData* samples, std::size_t count)
 {
-    // While nothing would be visible, samples are not kept.
+    // Nothing would ever show of them.
     constexpr std::uint32_t Visible =
         DrawOption::Cursor | DrawOption::Line | DrawOption::Outline | DrawOption::ColorPicker;
     if (EnabledOptions(Visible) == 0) {
@@ -95,7 +95,7 @@ void Drawing::AddPenData_(const PenData& sample)
         pendingSamples.push_back(sample);
         pendingSamples.back().time = MillisecondClock();
     }
-    // The pending count, until the next move or deletion puts the live count back.
+    // Until the next frame or tick, readers see how much has come in, not how much is drawn.
     livePointsNum = static_cast<std::int64_t>(pendingSamples.size());
 }
 
@@ -121,7 +121,7 @@ void Drawing::CalcPenReportRate_()
         if (span < 0) {
             LogTimeWarning("CalcPenReportRate_", static_cast<int>(span)); // this line prints 32 bits
         }
-        // n samples over the span of n - 1 intervals: the slight over-count is the rate's definition.
+        // A little high, as n samples are only n - 1 intervals apart; it shows with the first few alone.
         rate = span > 0 ? count * MillisecondsPerSecond / static_cast<std::uint64_t>(span) : 0;
     }
     const std::lock_guard lock(rateMutex);

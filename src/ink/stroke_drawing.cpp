@@ -9,7 +9,7 @@ namespace zq::LM {
 
 namespace {
 
-// A brush or a stored value uses the top bit for nothing; it is dropped before scaling.
+// The top bit of a width means nothing.
 constexpr std::uint32_t WidthBits = 0x7FFFFFFF;
 
 std::int64_t Age(std::uint32_t now, const PenData& sample)
@@ -20,16 +20,16 @@ std::int64_t Age(std::uint32_t now, const PenData& sample)
 // The time between a segment's two samples, which unlike an age stays what it is.
 std::int64_t Gap(const PenData& older, const PenData& newer) { return Age(newer.time, older); }
 
-// A hover sample on either side breaks the stroke.
+// The pen was down all the way.
 bool IsStroke(const PenData& older, const PenData& newer) { return Touches(older) && Touches(newer); }
 
-// Sums of coordinates wrap at 32 bits, whatever the host sends.
+// A host may send any coordinate, and a signed sum must not overflow.
 std::int32_t Sum(std::int32_t a, std::int32_t b)
 {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
 }
 
-// Strokes change to the contrast colour and back in bands of 10 ms of their age.
+// As ink ages its stripes pass along the stroke.
 bool IsContrastBand(std::int64_t age)
 {
     constexpr std::int64_t BandMilliseconds = 10;
@@ -57,7 +57,7 @@ void Drawing::DrawLumoraLines()
 void Drawing::PickColor_()
 {
     if (params.colorPicker == 1 && !liveSamples.empty() && liveSamples.back().pressure > 0) {
-        params.inkColor = pickColorCallback(true); // which also ends the picking
+        params.inkColor = pickColorCallback(true); // the touch was the choice: picking is over
     }
 }
 
@@ -68,7 +68,7 @@ void Drawing::DrawStrokes_()
         return;
     }
     if (params.line == 1) {
-        // The main stroke covers the outline's middle: a rim of contrast colour remains.
+        // A stroke a little wider, below the other: its border stays in sight.
         if (params.outline != 0) {
             DrawLumoraLinesBody_Outline_();
         }
@@ -115,7 +115,7 @@ void Drawing::DrawLumoraLinesBody_Outline_()
     for (std::size_t i = 0; i + 1 < liveSamples.size(); ++i) {
         const PenData& older = liveSamples[i];
         const PenData& newer = liveSamples[i + 1];
-        // The gap, not the age as in the main pass: the difference is wanted.
+        // A segment drawn faster than ink lives has its border for as long as both samples are there.
         const std::int64_t gap = Gap(older, newer);
         if (gap < 0) {
             LogTimeWarning("DrawLumoraLinesBody_Outline_", gap);
@@ -138,7 +138,7 @@ void Drawing::DrawLumoraLinesBody_Hollow_()
             continue;
         }
         const Segment segment = MakeSegment_(older, newer);
-        // A brush narrower than the inset wraps to a huge width, on purpose.
+        // A stroke without room for a core is all core: below zero, this becomes the widest line there is.
         const std::int64_t inner = static_cast<std::int64_t>(segment.width & WidthBits) - hollowInset;
         const std::uint32_t width =
             TruncateToUnsigned(static_cast<double>(static_cast<std::uint64_t>(inner)) * scale);
@@ -166,12 +166,12 @@ void Drawing::DrawSwatch_(const PenData& pen)
     constexpr unsigned RimWidth = 40;
     constexpr unsigned Width = 32;
     constexpr unsigned Grey = 0x00C0C0C0;
-    // Up and to the left of the pen, or away from the screen's edge when that is near.
+    // Where a right hand does not cover it, yet never off the screen.
     const auto beside = [](std::int32_t position) {
         const std::int32_t before = Sum(position, -Distance);
         return before <= Distance ? Sum(position, Distance) : before;
     };
-    const unsigned colour = pickColorCallback(false); // the ink follows the screen colour while picking
+    const unsigned colour = pickColorCallback(false); // the ink has that colour from now on
     const int x = beside(pen.x);
     const int y = beside(pen.y);
     DrawSegment_(x, y, RimWidth, Grey, x, y, RimWidth, Grey);

@@ -12,7 +12,7 @@ D2D::D2D() : clearColour(std::make_unique<D2D1_COLOR_F>(D2D1_COLOR_F{0.0F, 0.0F,
     SetUp_(); // a failure shows as a missing render target
 }
 
-// The order is fixed.
+// As they were made, drawing before text, where members would go the other way. Each keeps its factory alive.
 D2D::~D2D()
 {
     factory.Reset();
@@ -36,13 +36,13 @@ bool D2D::SetUp_()
     if (FAILED(factory->CreateDCRenderTarget(&properties, renderTarget.GetAddressOf()))) {
         return false;
     }
-    // A smoothed edge would mix ink with the key: neither ink nor transparent.
+    // The key is one exact colour: a pixel that is only near it would be seen as magenta.
     renderTarget->SetAntialiasMode(D2D1_ANTIALIAS_MODE_ALIASED);
     renderTarget->SetTextAntialiasMode(D2D1_TEXT_ANTIALIAS_MODE_ALIASED);
     return true;
 }
 
-// Failures are not examined: without a format there is no text, and ink is still drawn.
+// Text that cannot be drawn is no reason to draw no ink.
 void D2D::CreateTextFormat_()
 {
     constexpr float Size = 16.0F;
@@ -84,7 +84,6 @@ bool D2D::Present()
         return false;
     }
     const HRESULT result = renderTarget->EndDraw();
-    // Nothing is made anew: the next frame simply draws again.
     return result == S_OK || result == static_cast<HRESULT>(D2DERR_RECREATE_TARGET);
 }
 
@@ -98,7 +97,7 @@ void D2D::DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, in
     if (brush == nullptr) {
         return;
     }
-    // Made for every segment: nothing is kept between calls. Without it the line has flat ends.
+    // A failure is no reason to leave out the line: it has flat ends then.
     const D2D1_STROKE_STYLE_PROPERTIES properties = RoundStroke();
     ComPtr<ID2D1StrokeStyle> style;
     factory->CreateStrokeStyle(&properties, nullptr, 0, style.GetAddressOf());

@@ -1,5 +1,5 @@
-// The Direct2D back-end: draws without antialiasing into the memory bitmap, so that every pixel is either ink
-// or the key that the overlay's window shows as transparent.
+// The Direct2D back-end: hard-edged ink on the memory bitmap. A window with a colour key has no pixels that
+// are partly seen through, so there is nothing to soften an edge with.
 #pragma once
 
 #include "render/d2d_headers.h"
@@ -14,8 +14,8 @@ namespace zq::LM {
 
 class D2D final : public DrawingLib {
 public:
-    // Makes everything but the binding to a bitmap, whether or not this back-end is the active one. What
-    // fails stays missing, and what needs it is not drawn.
+    // Ready but for a bitmap, so that a choice of the user's finds it so. What could not be made stays
+    // missing, and with it what it would have drawn.
     D2D();
     ~D2D() override;
     D2D(const D2D&) = delete;
@@ -23,20 +23,23 @@ public:
 
     bool InitTransparentWindow(HWND newWindow, unsigned colorKey) override;
 
-    // Both are false without a render target. A target that asks to be made anew is used again as it is.
+    // False where Direct2D could not be set up. A target that wants to be remade goes on as it is: what it
+    // draws on is a bitmap in memory, which no device takes along.
     bool Clear() override;
     bool Present() override;
 
-    // The mean of the ends' colours, channel by channel. The alpha byte does not count: erasing paints the
-    // key.
+    // Opaque whatever the alpha byte says: that is how erasing works here, by painting in the key. Ends of
+    // two colours meet in their mean.
     void DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, int y2, unsigned width2,
                   unsigned colour2) override;
 
-    // Wrapped at the right edge of the shell's desktop; nothing without a shell.
+    // Lines break where the shell's desktop ends on the right, so without a shell there is no text.
     void DrawText(const wchar_t* text, int x, int y, unsigned colour) override;
 
-    // Binds the render target to the bitmap over the rectangle of the shell's desktop: where that does not
-    // begin at the origin, ink lies as far from the pen. Without a bitmap the last binding stays.
+    // The place of the shell's desktop becomes the part of the bitmap that is drawn on. Samples are positions
+    // on the screen and every back-end draws them from the overlay's own corner; here they move by that
+    // corner a second time. So where the desktop begins elsewhere than at (0, 0), ink lies twice as far from
+    // the pen as with the other back-ends. Without a bitmap the last binding stays.
     void SetMemoryDC(HDC newDC) override;
 
     // Strokes come as segments, the bitmap follows the screen without help, and rate bars are not drawn here.

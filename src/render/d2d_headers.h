@@ -27,7 +27,9 @@ struct ID2D1Factory2 : public ID2D1Factory1 {
     virtual HRESULT STDMETHODCALLTYPE CreateDevice(IDXGIDevice* dxgiDevice, ID2D1Device1** device) = 0;
 };
 
+#ifdef __CRT_UUID_DECL // how GCC's headers give an interface its identifier
 __CRT_UUID_DECL(ID2D1Device1, 0xd21768e1, 0x23a4, 0x4823, 0xa1, 0x4b, 0x7c, 0x3e, 0xba, 0x85, 0xd6, 0x58)
 __CRT_UUID_DECL(ID2D1Factory2, 0x94f81a73, 0x9212, 0x4376, 0x9c, 0x58, 0xb1, 0x6a, 0x3a, 0x0d, 0x39, 0x92)
+#endif
 
 #endif

@@ -14,13 +14,13 @@ D2D1_COLOR_F ShareColourWithAlpha(std::uint32_t colour);
 // The mean of two colours, channel by channel, opaque.
 D2D1_COLOR_F MeanColour(std::uint32_t colour1, std::uint32_t colour2);
 
-// The transparent key as what a frame begins with. Red and blue change places, which the usual key does not
-// show; the target ignores the alpha.
+// What a frame begins with. The usual key is as red as it is blue: another one would come out with these two
+// exchanged. The target has no alpha.
 D2D1_COLOR_F CrossedKeyColour(std::uint32_t colorKey);
 
 inline D2D1_POINT_2F D2DPoint(int x, int y) { return {static_cast<float>(x), static_cast<float>(y)}; }
 
-// Round caps, flat dashes, mitred joins, solid.
+// How strokes begin and end: round.
 D2D1_STROKE_STYLE_PROPERTIES RoundStroke();
 
 } // namespace zq::LM

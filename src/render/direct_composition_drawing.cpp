@@ -10,7 +10,7 @@ namespace {
 
 D2D1_POINT_2F Point(const PenData& sample) { return D2DPoint(sample.x, sample.y); }
 
-// Both coordinates must change: a step along one axis adds no point.
+// Only slanting steps bend the line. A stroke that goes straight along one axis is a single dot.
 bool AddsPoint(const PenData& previous, const PenData& current)
 {
     return current.x != previous.x && current.y != previous.y;
@@ -47,7 +47,7 @@ bool DirectCompositionImpl::Present()
     if (!IsReady_()) {
         return false;
     }
-    deviceContext->EndDraw(); // a frame that failed shows in the next one
+    deviceContext->EndDraw(); // should it fail, the next frame draws all living ink again
     constexpr UINT NoWaiting = 0;
     if (swapChain->Present(NoWaiting, 0) != S_OK) {
         LogAtNormal(L"Exception is thrown!\n");

@@ -146,7 +146,8 @@ void DirectCompositionImpl::CreateVisualTree_()
     Require(DCompositionCreateDevice(dxgiDevice.Get(), __uuidof(IDCompositionDevice),
                                      reinterpret_cast<void**>(compositionDevice.GetAddressOf())),
             "DCompositionCreateDevice");
-    // Into the same member without releasing the first: one device stays behind for each set-up, on purpose.
+    // The newer kind of device takes the place of the older one, whose reference nobody has afterwards: each
+    // set-up costs one device for the life of the process.
     Require(DCompositionCreateDevice3(dxgiDevice.Get(), __uuidof(IDCompositionDevice),
                                       reinterpret_cast<void**>(compositionDevice.GetAddressOf())),
             "DCompositionCreateDevice3");
@@ -201,7 +202,7 @@ void DirectCompositionImpl::Resize()
         Log(BASIC, L"Device-Lost occured.\n");
         return;
     }
-    CreateTargetBitmap_(); // whatever the result
+    CreateTargetBitmap_(); // after a failure too: the old buffers can still be drawn into
 }
 
 } // namespace zq::LM

@@ -15,8 +15,8 @@
 
 namespace zq::LM {
 
-// Empty until its set-up; after a failed one it keeps what was made so far. Drawing does nothing, and says
-// false, without a device context and a swap chain. A lost device is noted and not replaced.
+// Drawing is harmless before a set-up and after one that broke off half-way, and says false then. Once the
+// device is lost nothing shows until another instance brings a new one.
 class DirectCompositionImpl {
 public:
     DirectCompositionImpl();
@@ -24,7 +24,7 @@ public:
     DirectCompositionImpl(const DirectCompositionImpl&) = delete;
     DirectCompositionImpl& operator=(const DirectCompositionImpl&) = delete;
 
-    // Replaces an earlier chain. False when a step failed.
+    // May be called again, and then starts over.
     bool InitTransparentWindow(HWND newWindow) { return InitTransparentWindowCore_(newWindow); }
 
     bool Clear();
@@ -63,7 +63,7 @@ private:
     ComPtr<IDCompositionTarget> compositionTarget;
     ComPtr<ID2D1DeviceContext> deviceContext;
     ComPtr<IDCompositionDevice> compositionDevice;
-    ComPtr<IUnknown> compositionDevice3; // the same device by its third interface; held, not used
+    ComPtr<IUnknown> compositionDevice3; // nobody asks it for anything yet
     ComPtr<IDCompositionVisual> visual;
     std::uint32_t brushColour = 0xFF000000; // of the cached brush
     ComPtr<ID2D1SolidColorBrush> brush;

@@ -8,9 +8,10 @@
 
 namespace zq::LM {
 
-// Everything runs on the overlay's thread. A back-end is made before it knows a window and may meet any call
-// in that state; an operation that means nothing to it is empty. The results say whether it worked; nobody
-// acts on them. Colours are 0xAABBGGRR; each back-end says whether it honours the alpha byte.
+// All of them exist at once and one is in use, which may meet any call before it has been given a window. So
+// each call must be harmless then, and a failure must not stop a frame: the results are for tests and
+// debuggers. Nothing here is for two threads. Colours are 0xAABBGGRR; what the alpha byte does is said with
+// each back-end.
 class DrawingLib {
 public:
     DrawingLib() = default;
@@ -18,7 +19,7 @@ public:
     DrawingLib(const DrawingLib&) = delete;
     DrawingLib& operator=(const DrawingLib&) = delete;
 
-    // Binds to the overlay window and makes it transparent where it is painted in the key.
+    // The overlay window from now on, and the colour through which the desktop is to be seen.
     virtual bool InitTransparentWindow(HWND window, unsigned colorKey) = 0;
 
     // Brackets of a frame.

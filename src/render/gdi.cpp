@@ -39,10 +39,10 @@ bool GDI::Clear()
     if (dc == nullptr) {
         return false;
     }
-    // The window's rectangle, not scaled, even where the bitmap is.
+    // As large as the window, which at the one scale there is, 1, is as large as the bitmap.
     RECT client{};
     GetClientRect(window, &client);
-    FillRectangle(dc, client, keyColour);
+    FillRectangle(dc, client, keyColour); // failed, the frame is drawn over the one before
     return true;
 }
 

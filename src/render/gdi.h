@@ -1,5 +1,4 @@
-// The GDI back-end: draws into the memory bitmap, which the overlay copies onto its colour-keyed, slightly
-// transparent window.
+// The GDI back-end: asks for no graphics device at all, and lets what lies below the ink shine through it.
 #pragma once
 
 #include "render/drawing_lib.h"
@@ -15,7 +14,7 @@ namespace zq::LM {
 
 class GDI final : public DrawingLib {
 public:
-    // GDI+ runs from construction to destruction, whether or not this back-end is the active one.
+    // Starts GDI+, so that a choice of the user's finds it running.
     GDI();
     ~GDI() override;
     GDI(const GDI&) = delete;
@@ -23,16 +22,15 @@ public:
 
     bool InitTransparentWindow(HWND newWindow, unsigned colorKey) override;
 
-    // Clear is false without a memory bitmap. The window's painting shows the bitmap, so Present has nothing
-    // to do.
+    // Clear is false without a memory bitmap. A frame that is drawn needs nothing more: painting copies it.
     bool Clear() override;
     bool Present() override;
 
-    // Honours the alpha byte.
+    // Alpha 0 leaves the bitmap as it was: no part of a stroke can be erased here.
     void DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, int y2, unsigned width2,
                   unsigned colour2) override;
 
-    // In the font that the device context holds, with a grey shadow one pixel to the right and below.
+    // In the system's font. A grey shadow keeps it readable whatever lies below.
     void DrawText(const wchar_t* text, int x, int y, unsigned colour) override;
 
     void SetMemoryDC(HDC newDC) override;

@@ -5,70 +5,84 @@
 #include "platform/win32/gdiplus_flat.h"
 #include "render/line_rules.h"
 
-#include <algorithm>
-#include <memory>
-
 namespace zq::LM {
 
 namespace {
 
 namespace flat = Gdiplus::DllExports;
 
-// Wider than any screen. Beyond some width GDI+ computes outside its integers, and not every GDI+ survives
-// that.
+// Wider than any screen. Far beyond it GDI+ computes outside its integers, and not every GDI+ survives that.
 constexpr float WidestPen = 100'000.0F;
 
-struct GraphicsDeleter {
-    void operator()(Gdiplus::GpGraphics* graphics) const { flat::GdipDeleteGraphics(graphics); }
-};
+// Nobody asks whether a step worked: GDI+ checks its arguments itself, so one that failed makes the following
+// ones do nothing, up to the deletion of what was not made.
+class Graphics {
+public:
+    explicit Graphics(HDC dc) { flat::GdipCreateFromHDC(dc, &graphics); }
+    ~Graphics() { flat::GdipDeleteGraphics(graphics); }
+    Graphics(const Graphics&) = delete;
+    Graphics& operator=(const Graphics&) = delete;
 
-struct PenDeleter {
-    void operator()(Gdiplus::GpPen* pen) const { flat::GdipDeletePen(pen); }
-};
+    Gdiplus::GpGraphics* Get() const { return graphics; }
 
-std::unique_ptr<Gdiplus::GpGraphics, GraphicsDeleter> MakeGraphics(HDC dc)
-{
+private:
     Gdiplus::GpGraphics* graphics = nullptr;
-    flat::GdipCreateFromHDC(dc, &graphics);
-    return std::unique_ptr<Gdiplus::GpGraphics, GraphicsDeleter>(graphics);
-}
+};
 
-std::unique_ptr<Gdiplus::GpPen, PenDeleter> MakeRoundPen(std::uint32_t argb, float width)
-{
+class RoundPen {
+public:
+    RoundPen(std::uint32_t argb, float width)
+    {
+        flat::GdipCreatePen1(argb, width, Gdiplus::UnitWorld, &pen);
+        flat::GdipSetPenStartCap(pen, Gdiplus::LineCapRound);
+        flat::GdipSetPenEndCap(pen, Gdiplus::LineCapRound);
+    }
+    ~RoundPen() { flat::GdipDeletePen(pen); }
+    RoundPen(const RoundPen&) = delete;
+    RoundPen& operator=(const RoundPen&) = delete;
+
+    Gdiplus::GpPen* Get() const { return pen; }
+
+private:
     Gdiplus::GpPen* pen = nullptr;
-    flat::GdipCreatePen1(argb, width, Gdiplus::UnitWorld, &pen);
-    flat::GdipSetPenStartCap(pen, Gdiplus::LineCapRound);
-    flat::GdipSetPenEndCap(pen, Gdiplus::LineCapRound);
-    return std::unique_ptr<Gdiplus::GpPen, PenDeleter>(pen);
+};
+
+bool IsVisible(const GdiLine& line) { return (line.colour & OpaqueAlpha) != 0; }
+
+// The hollow stroke of a narrow brush is erased by a line wider than any screen, which is invisible here. A
+// thin pen leaves the same pixels; a wide one would take its time to blend nothing into all of them.
+float PenWidth(const GdiLine& line)
+{
+    constexpr float ThinPen = 1.0F;
+    const float width = HalfWidthSum(line.width1, line.width2);
+    if (width <= WidestPen) {
+        return width;
+    }
+    return IsVisible(line) ? WidestPen : ThinPen;
 }
 
-// GDI+ draws no caps on a line without length: give it too little to be seen.
-void DrawDot(Gdiplus::GpGraphics* graphics, Gdiplus::GpPen* pen, int x, int y)
+bool HasLength(const GdiLine& line) { return line.x1 != line.x2 || line.y1 != line.y2; }
+
+// GDI+ draws no caps on a line without length: here it gets too little to be seen.
+void DrawDot(const Graphics& graphics, const RoundPen& pen, int x, int y)
 {
     constexpr float Unseen = 0.1F;
     const auto left = static_cast<float>(x);
     const auto top = static_cast<float>(y);
-    flat::GdipDrawLine(graphics, pen, left, top, left + Unseen, top);
+    flat::GdipDrawLine(graphics.Get(), pen.Get(), left, top, left + Unseen, top);
 }
 
 } // namespace
 
-// Made anew for every segment: simple, and nothing is kept between calls. GDI+ checks its arguments itself,
-// so a step that failed makes the following ones do nothing.
+// Keeps nothing for the next one: a stroke has too few segments for that to show.
 void DrawGdiPlusLine(HDC dc, const GdiLine& line)
 {
-    const float width = HalfWidthSum(line.width1, line.width2);
-    const bool isVisible = (line.colour & OpaqueAlpha) != 0;
-    if (!isVisible && width > WidestPen) {
-        return; // as a hollow stroke of a narrow brush erases: invisible, and costly over the whole bitmap
+    const Graphics graphics(dc);
+    const RoundPen pen(GdiPlusColour(line.colour), PenWidth(line));
+    flat::GdipDrawLineI(graphics.Get(), pen.Get(), line.x1, line.y1, line.x2, line.y2);
+    if (!HasLength(line) && IsVisible(line)) {
+        DrawDot(graphics, pen, line.x1, line.y1);
     }
-    const auto graphics = MakeGraphics(dc);
-    const auto pen = MakeRoundPen(GdiPlusColour(line.colour), std::min(width, WidestPen));
-    if (line.x1 == line.x2 && line.y1 == line.y2) {
-        DrawDot(graphics.get(), pen.get(), line.x1, line.y1);
-        return;
-    }
-    flat::GdipDrawLineI(graphics.get(), pen.get(), line.x1, line.y1, line.x2, line.y2);
 }
 
 void DrawPlainLine(HDC dc, const GdiLine& line)

@@ -21,11 +21,11 @@ constexpr std::uint32_t GdiPlusColour(std::uint32_t colour)
     return (colour & 0xFF00FF00) | ((colour & 0xFF) << 16) | ((colour >> 16) & 0xFF);
 }
 
-// Round caps, antialiased, half widths kept; honours the alpha byte, so that alpha 0 draws nothing. A line
-// from a point to itself is a dot.
+// Round ends, half pixels of width, and hard edges: GDI+ does not smooth unless it is told to. Alpha 0 leaves
+// no trace. A line from a point to itself is a dot.
 void DrawGdiPlusLine(HDC dc, const GdiLine& line);
 
-// A plain GDI pen: whole widths, no alpha.
+// By GDI alone, which knows neither half pixels nor transparency.
 void DrawPlainLine(HDC dc, const GdiLine& line);
 
 } // namespace zq::LM

@@ -5,8 +5,9 @@
 
 namespace zq::LM {
 
-// Fills a rectangle whose left and top are 0: right and bottom are used as width and height.
-void FillRectangle(HDC dc, const RECT& rectangle, COLORREF colour);
+// For client areas, whose left and top are 0: from another corner the fill would reach too far. False when
+// nothing was painted; no other colour is ever painted instead.
+bool FillRectangle(HDC dc, const RECT& rectangle, COLORREF colour);
 
 // Fills a window's client area with the transparent key. Does nothing without a window.
 void ClearWindowToKey(HWND window);

@@ -6,7 +6,7 @@
 
 namespace zq::LM {
 
-void MemorySurface::Create(HWND window, int newWidth, int newHeight)
+bool MemorySurface::Create(HWND window, int newWidth, int newHeight)
 {
     Release();
     width = newWidth;
@@ -16,18 +16,20 @@ void MemorySurface::Create(HWND window, int newWidth, int newHeight)
     bitmap.reset(CreateCompatibleBitmap(windowDC.Get(), width, height));
     if (dc == nullptr || bitmap == nullptr) {
         Release();
-        return;
+        return false;
     }
     selected.emplace(dc.get(), bitmap.get());
-    // A new bitmap is black, and a back-end may fail to draw on it or not reach all of it.
-    Clear();
+    // A new bitmap is black, and a back-end may fail to draw on it or not reach all of it: better none.
+    if (!selected->IsSelected() || !Clear()) {
+        Release();
+        return false;
+    }
+    return true;
 }
 
-void MemorySurface::Clear() const
+bool MemorySurface::Clear() const
 {
-    if (dc != nullptr) {
-        FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey);
-    }
+    return dc != nullptr && FillRectangle(dc.get(), {0, 0, width, height}, g_colorKey);
 }
 
 void MemorySurface::Release()

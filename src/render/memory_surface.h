@@ -14,17 +14,17 @@ public:
     MemorySurface(const MemorySurface&) = delete;
     MemorySurface& operator=(const MemorySurface&) = delete;
 
-    // Makes a bitmap of the window's format, transparent all over. On failure there is no surface.
-    void Create(HWND window, int newWidth, int newHeight);
+    // Makes a bitmap of the window's format, transparent all over. False when there is no surface; a later
+    // try may succeed.
+    bool Create(HWND window, int newWidth, int newHeight);
     void Release();
 
-    // Makes all of it transparent again. Does nothing without a surface.
-    void Clear() const;
+    // Makes all of it transparent again. False when it could not, and without a surface.
+    bool Clear() const;
 
     HDC DC() const { return dc.get(); } // null while there is no surface
 
-    // Shows the surface on a window: as it is at a scale of 1, else stretched from a surface that is larger
-    // by the scale.
+    // `scale` is how many of its pixels make one of the window's.
     void CopyTo(HDC target, const RECT& client, double scale) const;
 
 private:

@@ -5,10 +5,11 @@
 
 namespace zq::LM {
 
-// The value is the back-end's index in the Core's list.
+// Also the place in the Core's list of back-ends.
 enum class RenderingType : std::int32_t { DirectComposition = 0, Direct2D = 1, GDI = 2 };
 
-// Outlives instances. Only the switch commands write it, on the overlay's thread.
+// The user's choice, so later instances follow it too. Needs no lock: the menu's commands come on the thread
+// that draws.
 extern RenderingType g_renderingType;
 
 // Consults the active type, which writes its line to the log.

@@ -8,13 +8,13 @@
 
 namespace zq::LM {
 
-// One more than the converted bytes: always terminated.
+// A terminator fits behind the longest text.
 using WideText = std::array<wchar_t, ConvertedTextBytes + 1>;
 
 // From the system's ANSI code page; a longer text is cut.
 WideText ConvertToWide(const char* text);
 
-// Converted and drawn; the place is scaled and then truncated.
+// The place is that on an unscaled bitmap.
 void DrawNarrowText(DrawingLib& backEnd, double scale, int x, int y, unsigned colour, const char* text);
 
 } // namespace zq::LM

@@ -6,13 +6,12 @@
 
 namespace zq::LM {
 
-// A text is converted over this many bytes, whatever its length; what lies behind its terminator is zero.
+// Every conversion is of this size: long texts are cut to it, and zeroes fill up short ones.
 inline constexpr std::size_t ConvertedTextBytes = 100;
 
 using ConvertedText = std::array<char, ConvertedTextBytes>;
 
-// The first bytes of `text` up to its terminator, filled up with zeroes: nothing behind the terminator is
-// read.
+// Reads no byte behind the terminator of `text`.
 ConvertedText CutText(const char* text);
 
 } // namespace zq::LM

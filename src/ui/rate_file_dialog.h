@@ -6,7 +6,7 @@
 namespace zq::LM {
 
 // Returns when the dialog is closed. Nothing is written: frame rates have no file format yet, so the chosen
-// name is dropped.
+// name is dropped. The process's current directory stays as it was.
 void AskForRateFile(HWND owner);
 
 } // namespace zq::LM

@@ -108,7 +108,7 @@ struct Hook<Function, Made, Result(Arguments...)> {
             const Result result = original(arguments...);
             const void* made = AsHandle(result);
             (static_cast<void>(made = HandleIn(arguments) != nullptr ? HandleIn(arguments) : made), ...);
-            if (Made.text[0] != '\0') {
+            if constexpr (Made.text[0] != '\0') {
                 if (made != nullptr && NameOf(made) == "other") {
                     g_state.names[made] = Made.text;
                 }
@@ -143,6 +143,7 @@ GraphicsRecorder::GraphicsRecorder()
     patches.push_back(Patch<"SelectObject", "previous", decltype(::SelectObject)>(Gdi));
     patches.push_back(Patch<"DeleteObject", "", decltype(::DeleteObject)>(Gdi));
     patches.push_back(Patch<"DeleteDC", "", decltype(::DeleteDC)>(Gdi));
+    patches.push_back(Patch<"SetDCBrushColor", "", decltype(::SetDCBrushColor)>(Gdi));
     patches.push_back(Patch<"PatBlt", "", decltype(::PatBlt)>(Gdi));
     patches.push_back(Patch<"BitBlt", "", decltype(::BitBlt)>(Gdi));
     patches.push_back(Patch<"StretchBlt", "", decltype(::StretchBlt)>(Gdi));
@@ -162,6 +163,7 @@ GraphicsRecorder::GraphicsRecorder()
     patches.push_back(Patch<"GdipDeletePen", "", decltype(flat::GdipDeletePen)>(GdiPlus));
     patches.push_back(Patch<"GdipSetPenStartCap", "", decltype(flat::GdipSetPenStartCap)>(GdiPlus));
     patches.push_back(Patch<"GdipSetPenEndCap", "", decltype(flat::GdipSetPenEndCap)>(GdiPlus));
+    patches.push_back(Patch<"GdipDrawLine", "", decltype(flat::GdipDrawLine)>(GdiPlus));
     patches.push_back(Patch<"GdipDrawLineI", "", decltype(flat::GdipDrawLineI)>(GdiPlus));
 }
 

@@ -28,6 +28,9 @@ public:
     SelectedObject(const SelectedObject&) = delete;
     SelectedObject& operator=(const SelectedObject&) = delete;
 
+    // False when the device context has kept what it had.
+    bool IsSelected() const { return previous != nullptr; }
+
 private:
     HDC dc;
     HGDIOBJ previous;

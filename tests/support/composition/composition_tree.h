@@ -5,10 +5,12 @@
 
 #include <dcomp.h>
 
+#ifdef __CRT_UUID_DECL // GCC's headers leave out these two identifiers; others bring theirs along
 __CRT_UUID_DECL(IDCompositionVisual, 0x4d93059d, 0x097b, 0x4651, 0x9a, 0x60, 0xf0, 0xf2, 0x51, 0x16, 0xe2,
                 0xf3)
 __CRT_UUID_DECL(IDCompositionTarget, 0xeacdd04c, 0x117e, 0x4e17, 0x88, 0xf4, 0xd1, 0xb1, 0x2b, 0x0e, 0x3d,
                 0x89)
+#endif
 
 namespace zq::LM::test {
 

@@ -85,9 +85,55 @@ TEST_F(GdiLineCallsTest, APenIsNoWiderThanAnyScreen)
                 Contains("GdipCreatePen1(0xffff0000, 100000, 0, out) = pen"));
 }
 
-TEST_F(GdiLineCallsTest, AnInvisibleLineWiderThanAnyScreenAsksNothing)
+TEST_F(GdiLineCallsTest, AnInvisibleLineIsAskedForLikeAnyOther)
 {
-    EXPECT_THAT(Draw(0x7FFFFFFF, 0x00FF00FF, 0x7FFFFFFF, 0x00FF00FF), ElementsAre());
+    EXPECT_THAT(Draw(6, 0x00FF00FF, 6, 0x00FF00FF),
+                ElementsAre("GdipCreateFromHDC(dc, out) = graphics",
+                            "GdipCreatePen1(0xff00ff, 6, 0, out) = pen", "GdipSetPenStartCap(pen, 2)",
+                            "GdipSetPenEndCap(pen, 2)", "GdipDrawLineI(graphics, pen, 10, 20, 30, 40)",
+                            "GdipDeletePen(pen)", "GdipDeleteGraphics(graphics)"));
+}
+
+TEST_F(GdiLineCallsTest, AnInvisibleLineWiderThanAnyScreenIsAskedForWithAThinPen)
+{
+    EXPECT_THAT(Draw(0x7FFFFFFF, 0x00FF00FF, 0x7FFFFFFF, 0x00FF00FF),
+                ElementsAre("GdipCreateFromHDC(dc, out) = graphics",
+                            "GdipCreatePen1(0xff00ff, 1, 0, out) = pen", "GdipSetPenStartCap(pen, 2)",
+                            "GdipSetPenEndCap(pen, 2)", "GdipDrawLineI(graphics, pen, 10, 20, 30, 40)",
+                            "GdipDeletePen(pen)", "GdipDeleteGraphics(graphics)"));
+}
+
+TEST_F(GdiLineCallsTest, ALineWithoutLengthIsFollowedByItsDot)
+{
+    gdi.DrawLine(60, 50, 40, OpaqueRed, 60, 50, 40, OpaqueRed);
+    EXPECT_THAT(calls.Take(),
+                ElementsAre("GdipCreateFromHDC(dc, out) = graphics",
+                            "GdipCreatePen1(0xffff0000, 40, 0, out) = pen", "GdipSetPenStartCap(pen, 2)",
+                            "GdipSetPenEndCap(pen, 2)", "GdipDrawLineI(graphics, pen, 60, 50, 60, 50)",
+                            "GdipDrawLine(graphics, pen, 60, 50, 60.1, 50)", "GdipDeletePen(pen)",
+                            "GdipDeleteGraphics(graphics)"));
+}
+
+TEST_F(GdiLineCallsTest, AnInvisibleLineWithoutLengthHasNoDot)
+{
+    gdi.DrawLine(60, 50, 40, 0x00FF00FF, 60, 50, 40, 0x00FF00FF);
+    EXPECT_THAT(calls.Take(),
+                ElementsAre("GdipCreateFromHDC(dc, out) = graphics",
+                            "GdipCreatePen1(0xff00ff, 40, 0, out) = pen", "GdipSetPenStartCap(pen, 2)",
+                            "GdipSetPenEndCap(pen, 2)", "GdipDrawLineI(graphics, pen, 60, 50, 60, 50)",
+                            "GdipDeletePen(pen)", "GdipDeleteGraphics(graphics)"));
+}
+
+TEST_F(GdiLineCallsTest, AFailedStepEndsNothingEarly)
+{
+    calls.Fail("GdipCreateFromHDC");
+    calls.Fail("GdipCreatePen1");
+    EXPECT_THAT(Draw(2, OpaqueRed, 2, OpaqueRed),
+                ElementsAre("GdipCreateFromHDC(dc, out) fails", "GdipCreatePen1(0xffff0000, 2, 0, out) fails",
+                            "GdipSetPenStartCap(null, 2)", "GdipSetPenEndCap(null, 2)",
+                            "GdipDrawLineI(null, null, 10, 20, 30, 40)", "GdipDeletePen(null)",
+                            "GdipDeleteGraphics(null)"));
+    EXPECT_EQ(bitmap.Look().Count(Green), 120U * 100U);
 }
 
 TEST_F(GdiLineTest, IsDrawnInItsColourAndWidth)
@@ -126,6 +172,19 @@ TEST_F(GdiLineTest, FromAPointToItselfIsARoundDot)
 TEST_F(GdiLineTest, WithAlpha0LeavesTheBitmapAsItWas)
 {
     gdi.DrawLine(20, 50, 30, 0x00FF00FF, 100, 50, 30, 0x00FF00FF);
+    EXPECT_EQ(bitmap.Look().Count(Green), 120U * 100U);
+}
+
+TEST_F(GdiLineTest, ADotWithAlpha0LeavesTheBitmapAsItWas)
+{
+    gdi.DrawLine(60, 50, 40, 0x00FF00FF, 60, 50, 40, 0x00FF00FF);
+    EXPECT_EQ(bitmap.Look().Count(Green), 120U * 100U);
+}
+
+TEST_F(GdiLineTest, WiderThanAnyScreenWithAlpha0LeavesTheBitmapAsItWas)
+{
+    gdi.DrawLine(20, 50, 0xFFFFFFFF, 0x00FF00FF, 100, 60, 0xFFFFFFFF, 0x00FF00FF);
+    gdi.DrawLine(60, 50, 0xFFFFFFFF, 0x00FF00FF, 60, 50, 0xFFFFFFFF, 0x00FF00FF);
     EXPECT_EQ(bitmap.Look().Count(Green), 120U * 100U);
 }
 

@@ -133,11 +133,42 @@ TEST(MemorySurfaceFailure, ALaterTryWorks)
     {
         GraphicsRecorder calls;
         calls.Fail("CreateCompatibleBitmap");
-        surface.Create(TheScreen, 70, 30);
+        EXPECT_FALSE(surface.Create(TheScreen, 70, 30));
     }
-    surface.Create(TheScreen, 70, 30);
+    EXPECT_TRUE(surface.Create(TheScreen, 70, 30));
     EXPECT_NE(surface.DC(), nullptr);
 }
+
+TEST(MemorySurfaceFailure, WithoutABrushForTheKeyItIsTransparentAllTheSame)
+{
+    MemorySurface surface;
+    {
+        GraphicsRecorder calls;
+        calls.Fail("CreateSolidBrush");
+        EXPECT_TRUE(surface.Create(TheScreen, 70, 30));
+    }
+    EXPECT_EQ(test::TakePicture(surface.DC(), {0, 0, 70, 30}).Count(0x00FF00FF), 70U * 30U);
+}
+
+// A surface that is not transparent would be shown as a black sheet.
+class MemorySurfaceWithoutTheKey : public testing::TestWithParam<const char*> {};
+
+TEST_P(MemorySurfaceWithoutTheKey, IsNoSurfaceAndLeavesNothing)
+{
+    MemorySurface surface;
+    GraphicsRecorder calls;
+    calls.Fail(GetParam());
+    EXPECT_FALSE(surface.Create(TheScreen, 70, 30));
+    EXPECT_EQ(surface.DC(), nullptr);
+    const std::vector<std::string> made = calls.Take();
+    EXPECT_THAT(made, testing::Contains("DeleteDC(memory)"));
+    EXPECT_THAT(made, testing::Contains("DeleteObject(bitmap)"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, MemorySurfaceWithoutTheKey, testing::Values("PatBlt", "SelectObject"),
+                         [](const testing::TestParamInfo<const char*>& step) {
+                             return std::string(step.param);
+                         });
 
 TEST(MemorySurfaceFailure, AnOldSurfaceIsGoneAfterAFailedTry)
 {

@@ -5,8 +5,9 @@
 #include "settings/colour_images.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <sstream>
+#include <string>
 
 namespace zq::LM::test {
 namespace {
@@ -42,9 +43,14 @@ protected:
     ShownHsv Shown() const
     {
         ShownHsv shown{};
-        EXPECT_EQ(
-            std::sscanf(Text(EditHsv).c_str(), "(%d, %d, %d)", &shown.hue, &shown.saturation, &shown.value),
-            3);
+        char opening = 0;
+        char comma = 0;
+        char secondComma = 0;
+        char closing = 0;
+        std::istringstream text(Text(EditHsv));
+        text >> opening >> shown.hue >> comma >> shown.saturation >> secondComma >> shown.value >> closing;
+        EXPECT_TRUE(text) << text.str();
+        EXPECT_EQ((std::string{opening, comma, secondComma, closing}), "(,,)") << text.str();
         return shown;
     }
 
