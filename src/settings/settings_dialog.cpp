@@ -63,12 +63,16 @@ void SettingsDialog::Open()
 
 void SettingsDialog::Refresh()
 {
-    if (dialog == nullptr || !Shows_(dialog)) {
-        return;
-    }
     const Hold hold(*this);
-    picker.Follow(record->inkColor);
-    UpdateControls_(dialog);
+    Refresh_();
+}
+
+void SettingsDialog::Refresh_()
+{
+    if (dialog != nullptr && Shows_(dialog)) {
+        picker.Follow(record->inkColor);
+        UpdateControls_(dialog);
+    }
 }
 
 // Always answers 0: the system handles every message too.
@@ -111,7 +115,7 @@ void SettingsDialog::OnInit_(HWND window)
     dialog = window;
     dragging = false;
     InitCommonControls();
-    Refresh();
+    Refresh_();
     if (Shows_(window)) {
         picker.Build(GetDlgItem(window, ValueBarArea), GetDlgItem(window, WheelArea));
     }
@@ -208,7 +212,7 @@ void SettingsDialog::DragPicker_(HWND window)
         return;
     }
     record->inkColor = RoundedReference(RgbFromHsv(picker.Colour()));
-    Refresh();
+    Refresh_();
 }
 
 // Forgotten first: giving the capture back tells of it.

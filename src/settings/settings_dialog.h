@@ -34,6 +34,7 @@ private:
     // Whether this window is the open dialog still, and the record there.
     bool Shows_(HWND window) const { return Lives() && dialog == window && record != nullptr; }
 
+    void Refresh_();
     bool IsServed_(HWND window, UINT message) const;
     void OnMessage_(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnInit_(HWND window);

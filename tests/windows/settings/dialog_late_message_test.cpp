@@ -56,14 +56,30 @@ TEST_F(LateMessages, NorDoTheyWhileAnotherDialogIsOpen)
 {
     HWND closed = Dialog();
     Close();
+    Open();
+    Type(EditBrushSize, "250");
+    before.brushSize = 200;
+    SendMessageW(closed, WM_COMMAND, CheckLine, 0); // would store what was typed
+    ExpectUnchanged();
+}
+
+TEST_F(LateMessages, AClosedDialogClosesNoOther)
+{
+    HWND closed = Dialog();
+    Close();
     HWND open = Open();
-    Type(EditInkLife, "");
-    SendMessageW(closed, WM_COMMAND, CheckLine, 0);
-    SendMessageW(closed, WM_INITDIALOG, 0, 0);
     SendMessageW(closed, WM_SYSCOMMAND, SC_CLOSE, 0);
     EXPECT_THAT(OpenDialogs(), testing::ElementsAre(open));
-    EXPECT_EQ(Text(EditInkLife), ""); // nothing was shown anew
-    ExpectUnchanged();
+}
+
+TEST_F(LateMessages, AClosedDialogDoesNotTakeThePlaceOfTheOpenOne)
+{
+    HWND closed = Dialog();
+    Close();
+    Open();
+    SendMessageW(closed, WM_INITDIALOG, 0, 0);
+    Type(EditBrushSize, "50");
+    EXPECT_EQ(Record().brushSize, 50U);
 }
 
 TEST_F(LateMessages, ADialogThatIsDestroyedWhileItsSlidersAreReadChangesNothing)
