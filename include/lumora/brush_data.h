@@ -1,8 +1,9 @@
-/* Makes brush-data messages, which change ink colour, brush size and ink life. For C++17; nothing to link.
+/* Makes brush-data messages, which change ink colour, brush size and ink life. For C++17; nothing to link. A
+ * host in C writes the bytes itself: docs/brush-data.md has the layout and an example.
  *
- * Hand a message to LM_SetData_from_App, or send it to an instance that listens for them, one send a message.
- * A message is as long as anything that the library reads of it or zeroes in it. docs/brush-data.md has the
- * layout. */
+ * Hand a message to LM_SetData_from_App, on the thread that called LM_Create, or send it to an instance that
+ * listens for them, one send a message. What the library reads of a message and what it zeroes both lie
+ * inside. */
 #ifndef LUMORA_BRUSH_DATA_H
 #define LUMORA_BRUSH_DATA_H
 
@@ -46,19 +47,19 @@ inline BrushDataMessage MakeMessage(std::u16string_view name, std::initializer_l
 /* Changes nothing. */
 inline BrushDataMessage MakeNothing() { return detail::MakeMessage(u"Nothing", {}); }
 
-/* The ink colour, 0x00BBGGRR: red in the low byte. */
+/* Red ink is 0x000000FF, blue ink 0x00FF0000. Leave the highest byte 0: it is no alpha. */
 inline BrushDataMessage MakeInkColor(std::uint32_t colour)
 {
     return detail::MakeMessage(u"InkColor", {colour});
 }
 
-/* The smallest width that pressure may give a stroke, and the full width, in pixels. */
+/* Widths in pixels: that of the lightest touch, and that of full pressure. */
 inline BrushDataMessage MakeBrushSize(std::uint32_t smallest, std::uint32_t full)
 {
     return detail::MakeMessage(u"BrushSize", {smallest, full});
 }
 
-/* The ink life in milliseconds. */
+/* How long ink stays. */
 inline BrushDataMessage MakeInkDecayTime(std::uint32_t milliseconds)
 {
     return detail::MakeMessage(u"InkDecayTime", {milliseconds});

@@ -1,8 +1,7 @@
 // The brush-data message: a kind by name and its payload, which change ink colour, brush size and ink life.
 //
-// A message is the kind's name in UTF-16 with its terminating 0, a 32-bit payload size and the payload, all
-// little-endian and at no particular alignment. The payload's size follows from the kind; the size in the
-// message only says how much of it is wiped afterwards.
+// The kind's name, a word that counts the payload's bytes, the payload: see docs/brush-data.md. The decoder
+// knows the payload by the kind and takes the word only for how much it wipes afterwards.
 #pragma once
 
 #include "ink/params.h"
@@ -31,8 +30,8 @@ std::uint16_t CountCodeUnits(const char16_t* name);
 // The length of the kind's name in code units; 0 for an index that is no kind's.
 std::uint16_t BrushDataNameLength(unsigned index);
 
-// How much of a consumed message is wiped. The name counts by its code units, not its bytes, so the end of a
-// message may stay; its first code unit never does, so it cannot be consumed twice.
+// How much of an applied message is wiped: enough that it can be taken for no message again. The sum takes
+// one byte for each of the name's two-byte code units, so bytes at the end may be left.
 std::uint64_t BrushDataWipeLength(BrushDataKind kind, std::uint32_t payloadSize);
 
 // Applies the message to the record and wipes it. Returns the kind that was applied; with Nothing, message

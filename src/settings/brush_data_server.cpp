@@ -36,7 +36,8 @@ BrushDataServer::BrushDataServer(std::uint16_t port) : port(port)
     DropLastError();
 }
 
-// The order is fixed: first what the worker may wait in, then what it asks before it goes on.
+// A worker that waits on a socket is woken by Winsock's end, so this comes before the join; the flag then
+// keeps it from trying again.
 BrushDataServer::~BrushDataServer()
 {
     winsock.End();
@@ -47,7 +48,7 @@ BrushDataServer::~BrushDataServer()
     LogA(BASIC, "DLL has closed TCP/IP Server.\n");
 }
 
-// No result is looked at, on purpose: a port in use starts the worker like a free one.
+// Nobody could be told of a failure, so none is asked for: the worker runs in vain then.
 void BrushDataServer::Listen_()
 {
     constexpr int WaitingClients = 1;
@@ -60,7 +61,7 @@ void BrushDataServer::Listen_()
     static_cast<void>(listen(listener, WaitingClients));
 }
 
-// A listener that accepts nobody makes this a tight loop, on purpose: it ends with the server.
+// Where every accept fails this spins until the server ends; nobody could reach such a server anyway.
 void BrushDataServer::ServeClients_()
 {
     while (exchange.IsRunning()) {

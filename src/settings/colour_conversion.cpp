@@ -56,7 +56,7 @@ Hsv HsvFromRgb(const Rgb& colour)
     const double most = std::max({r, g, b});
     const double range = most - std::min({r, g, b});
     double hue = 0.0;
-    if (most == r) { // where two channels share the maximum, red goes before green and green before blue
+    if (most == r) { // equal channels: the one that is asked for first gives the hue
         hue = (g - b) * 60 / range;
     } else if (most == g) {
         hue = (b - r) * 60 / range + 120;

@@ -5,14 +5,14 @@
 
 namespace zq::LM {
 
-// Channels run from 0 to 255 and are not rounded: each user rounds or truncates as it needs.
+// Exact channels up to 255: a stored colour is made of them by rounding, a shown one by truncating.
 struct Rgb {
     double red = 0.0;
     double green = 0.0;
     double blue = 0.0;
 };
 
-// Hue in degrees, 0 to below 360; saturation and value from 0 to 255.
+// The hue in degrees of one turn; the others up to 255, like channels.
 struct Hsv {
     double hue = 0.0;
     double saturation = 0.0;
@@ -27,7 +27,8 @@ Hsv HsvFromRgb(const Rgb& colour);
 // A channel as a byte: truncated, and held within 0 to 255.
 std::uint8_t TruncatedChannel(double channel);
 
-// Colour references are 0x00BBGGRR: red in the low byte. The top byte is ignored, and 0 in a result.
+// The system packs a colour from red upward, 0x00BBGGRR. What lies above blue does not count, and is 0 in a
+// result.
 Rgb RgbFromReference(std::uint32_t reference);
 std::uint32_t RoundedReference(const Rgb& colour);
 std::uint32_t TruncatedReference(const Rgb& colour);

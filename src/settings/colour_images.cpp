@@ -14,7 +14,7 @@ namespace {
 constexpr std::uint8_t BackgroundGrey = 240;
 constexpr std::uint8_t FrameGrey = 128;
 
-// Row 0 is the first in memory: the bottom line.
+// Counted as they lie in memory, from the bottom up.
 std::span<std::uint8_t> Row(const BitmapPixels& bitmap, int row)
 {
     return bitmap.bytes.subspan(static_cast<std::size_t>(row) * RowBytes(bitmap.width),

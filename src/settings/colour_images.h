@@ -7,8 +7,8 @@
 
 namespace zq::LM {
 
-// A 24-bit bitmap as the system lays it out: blue, green, red; the bottom line first; each row padded to a
-// multiple of 4 bytes.
+// A bitmap in the system's own layout: lines from the bottom up, of three bytes a pixel with blue in front,
+// and as many idle bytes after each as make its length divisible by 4.
 struct BitmapPixels {
     std::span<std::uint8_t> bytes;
     int width;
@@ -17,10 +17,10 @@ struct BitmapPixels {
 
 constexpr std::size_t RowBytes(int width) { return (3 * static_cast<std::size_t>(width) + 3) / 4 * 4; }
 
-// A gradient from black to white in a frame of one pixel. Without a pixel nothing is painted.
+// From black to white, framed. Without a pixel nothing is painted.
 void PaintValueBar(const BitmapPixels& bitmap);
 
-// Hue is the angle, clockwise from the right; saturation the distance from the centre; the value is full.
+// White in the middle and pure colours at the rim, from red at the right clockwise through yellow.
 void PaintWheel(const BitmapPixels& bitmap);
 
 } // namespace zq::LM

@@ -47,7 +47,7 @@ bool OffScreenImage::Make_(HWND ofControl, int width, int height)
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);
     info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = height; // positive: the bottom line comes first
+    info.bmiHeader.biHeight = height; // positive: lines from the bottom up
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 24;
     info.bmiHeader.biCompression = BI_RGB;

@@ -19,7 +19,7 @@ public:
     // control, there is no image.
     bool Make(HWND control);
 
-    // A new image of the same control, size and pixels.
+    // Something to draw markers on while the source stays clean.
     bool MakeCopyOf(const OffScreenImage& source);
 
     void Release();

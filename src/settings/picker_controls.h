@@ -10,8 +10,8 @@ namespace zq::LM {
 
 class PickerControls {
 public:
-    // Makes the pictures of the two controls, once for each opening of the dialog. A control that is missing,
-    // or whose picture cannot be made, is not drawn.
+    // Makes the pictures of the two controls, once for each opening of the dialog. Where that fails, Show
+    // leaves the control out.
     void Build(HWND ofValueBar, HWND ofWheel);
 
     // Draws both controls: their pictures with the markers of the colour.

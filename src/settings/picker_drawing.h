@@ -6,7 +6,7 @@
 
 namespace zq::LM {
 
-// Each makes the image of a control once; showing it only copies, marks and transfers. Without an image
+// Building computes every pixel and is slow; showing is fast enough for each move of a drag. Without an image
 // nothing is shown.
 bool BuildValueBar(OffScreenImage& image, HWND control);
 bool BuildWheel(OffScreenImage& image, HWND control);

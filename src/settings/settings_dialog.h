@@ -10,14 +10,15 @@
 
 namespace zq::LM {
 
-// Modeless, on the thread of its owner window. There is nothing to apply: every change goes straight into the
-// record.
+struct Trackbar;
+
+// Modeless, on the thread of its owner window. Whatever a person does to a control is in the record at once.
+//
+// Nearly every call of it can run code of the host, which may change the record, close the dialog or end this
+// object. So the dialog's own messages hold the object, and what goes on after such a call asks Shows_ first.
 class SettingsDialog final : public ParamsView {
 public:
     SettingsDialog(HWND parent, HMODULE module);
-    ~SettingsDialog() override;
-    SettingsDialog(const SettingsDialog&) = delete;
-    SettingsDialog& operator=(const SettingsDialog&) = delete;
 
     // The record may be gone when this object ends.
     void SetRecord(Params* shownRecord) { record = shownRecord; }
@@ -28,28 +29,42 @@ public:
 private:
     static INT_PTR CALLBACK Procedure_(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    void OnMessage_(HWND window, UINT message, WPARAM wParam);
+    void OnEnd() override;
+
+    // Whether this window is the open dialog still, and the record there.
+    bool Shows_(HWND window) const { return Lives() && dialog == window && record != nullptr; }
+
+    void Refresh_();
+    bool IsServed_(HWND window, UINT message) const;
+    void OnMessage_(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnInit_(HWND window);
-    void OnPaint_(HWND window) const;
     void OnClose_();
-    void OnCommand_(int id, unsigned notification);
+    void OnUse_(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void OnPaint_(HWND window) const;
+    void OnCommand_(HWND window, int id, unsigned notification);
 
-    void ReadTrackbars_();
-    void ReadCheckBoxes_();
-    void ReadEdit_(int id);
-    void DragPicker_();
+    void DragPicker_(HWND window);
+    void EndDrag_();
+    void ShowColours_(HWND window) const;
 
-    void SetUpTrackbars_() const;
-    void UpdateControls_() const;
-    void ShowColours_() const;
+    // In settings_dialog_controls.cpp.
+    std::uint32_t& Number_(const Trackbar& trackbar);
+    bool IsStill_(const Params& before, HWND window) const;
+    void ReadTrackbars_(HWND window);
+    void ReadCheckBoxes_(HWND window);
+    void ReadEdit_(HWND window, int id);
+    void SetUpTrackbars_(HWND window);
+    void ShowNumbers_(HWND window);
+    void UpdateControls_(HWND window);
 
     HWND dialog = nullptr; // null while it is closed
+    bool opening = false;  // until its window says that it is there
     HWND parent;
     HMODULE module;
     PickerControls picker;
     bool dragging = false;
     Params* record = nullptr;
-    std::uint32_t framesPerSecond = 60; // shown, and read by nothing else
+    std::uint32_t framesPerSecond = 60; // for show: no frame is paced by it
 };
 
 } // namespace zq::LM

@@ -268,6 +268,22 @@ TEST_F(SettingsDialogTest, ATrackbarsMoveStoresAllThree)
     EXPECT_EQ(Text(EditFramesPerSecond), "30");
 }
 
+TEST_F(SettingsDialogTest, WithALowerBoundAbove200TheOtherTrackbarsMove)
+{
+    LM_Params params = Params();
+    params.minBrushSize = 300;
+    SetParams(params);
+    Open();
+    MoveTrackbar(TrackbarInkLife, 700);
+    EXPECT_EQ(Record().inkDecayTime, 700U);
+    EXPECT_EQ(Position(TrackbarInkLife), 700);
+    EXPECT_EQ(Text(EditInkLife), "700");
+    MoveTrackbar(TrackbarFramesPerSecond, 30);
+    EXPECT_EQ(Position(TrackbarFramesPerSecond), 30);
+    EXPECT_EQ(Text(EditFramesPerSecond), "30");
+    EXPECT_EQ(Record().brushSize, 300U);
+}
+
 TEST_F(SettingsDialogTest, FollowsParametersThatTheHostSets)
 {
     Open();

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 
 namespace zq::LM::test {
 namespace {
@@ -53,9 +52,9 @@ protected:
     }
 
     // The template is the library's.
-    std::unique_ptr<SettingsDialog> Make()
+    Owned<SettingsDialog> Make()
     {
-        auto dialog = std::make_unique<SettingsDialog>(owner, library.Module());
+        Owned<SettingsDialog> dialog(new SettingsDialog(owner, library.Module()));
         dialog->SetRecord(record.Get());
         return dialog;
     }
@@ -105,12 +104,23 @@ TEST_F(SettingsDialogEnd, OfAnEarlierObjectLeavesALaterOneInPlace)
     EXPECT_FALSE(IsWindowVisible(window));
 }
 
+TEST_F(SettingsDialogEnd, ClosesItsWindowWhenALaterObjectIsThere)
+{
+    auto earlier = Make();
+    earlier->Open();
+    HWND window = OpenDialog();
+    ASSERT_NE(window, nullptr);
+    const auto later = Make();
+    earlier.reset();
+    EXPECT_FALSE(IsWindowVisible(window));
+}
+
 TEST_F(SettingsDialogEnd, WithoutARecordNothingIsShownAndNothingBreaks)
 {
-    SettingsDialog dialog(owner, library.Module());
-    dialog.Refresh();
-    dialog.Open();
-    dialog.Refresh();
+    const Owned<SettingsDialog> dialog(new SettingsDialog(owner, library.Module()));
+    dialog->Refresh();
+    dialog->Open();
+    dialog->Refresh();
     HWND window = OpenDialog();
     ASSERT_NE(window, nullptr);
     SendMessageW(window, WM_COMMAND, 1015, 0);

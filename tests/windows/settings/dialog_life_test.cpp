@@ -202,7 +202,7 @@ TEST_F(SettingsDialogLife, ARepaintOnlyCopiesThePictures)
     EXPECT_EQ(images.Count(), calls.Count("BitBlt")); // a working copy for each showing, and no more
 }
 
-TEST_F(SettingsDialogLife, EachOfTwoHundredOpeningsLeavesAHiddenWindowAndItsFont)
+TEST_F(SettingsDialogLife, OfTwoHundredClosedDialogsOneIsKept)
 {
     const auto useOnce = [this](bool painted) {
         if (painted) {
@@ -225,9 +225,69 @@ TEST_F(SettingsDialogLife, EachOfTwoHundredOpeningsLeavesAHiddenWindowAndItsFont
     for (int i = 0; i < Painted + Unpainted; ++i) {
         useOnce(i < Painted);
     }
-    EXPECT_EQ(GdiObjects() - before, static_cast<std::size_t>(Painted + Unpainted));
-    EXPECT_EQ(AllDialogs().size(), static_cast<std::size_t>(WarmUp + Painted + Unpainted));
+    EXPECT_EQ(GdiObjects(), before);
+    EXPECT_EQ(AllDialogs().size(), 1U);
     EXPECT_THAT(OpenDialogs(), IsEmpty());
+}
+
+TEST_F(SettingsDialogLife, TheKeptDialogIsTheOneThatWasClosedLast)
+{
+    HWND first = Open();
+    Close();
+    HWND second = Open();
+    EXPECT_TRUE(IsWindow(first));
+    Close();
+    EXPECT_FALSE(IsWindow(first));
+    EXPECT_THAT(AllDialogs(), ElementsAre(second));
+    EXPECT_FALSE(IsWindowVisible(second));
+}
+
+TEST_F(SettingsDialogLife, AKeptDialogOfAnEarlierBackEndGoesWithTheNextClose)
+{
+    HWND old = Open();
+    Close();
+    Rebuild();
+    EXPECT_TRUE(IsWindow(old));
+    HWND later = Open();
+    Close();
+    EXPECT_THAT(AllDialogs(), ElementsAre(later));
+}
+
+TEST_F(SettingsDialogLife, AKeptDialogThatTheHostDestroysIsForgotten)
+{
+    DestroyWindow((Open(), Close(), Dialog()));
+    WatchedCall<decltype(DestroyWindow)> destroying(library.Module(), "USER32.dll", "DestroyWindow");
+    Open();
+    Close();
+    EXPECT_EQ(destroying.Count(), 0U);
+}
+
+TEST_F(SettingsDialogLife, AKeptDialogThatWentWithItsOverlayIsForgotten)
+{
+    Open();
+    Close();
+    DestroyAndForget();
+    CreateWithGDI();
+    WatchedCall<decltype(DestroyWindow)> destroying(library.Module(), "USER32.dll", "DestroyWindow");
+    Open();
+    Close();
+    EXPECT_EQ(destroying.Count(), 0U);
+}
+
+TEST_F(SettingsDialogLife, AKeptDialogThatCannotBeDestroyedIsLeft)
+{
+    WatchedCall<decltype(DestroyWindow)> destroying(library.Module(), "USER32.dll", "DestroyWindow");
+    destroying.Refuse(FALSE); // as the system does with a window of another thread
+    HWND left = Open();
+    Close();
+    Open();
+    Close();
+    ASSERT_EQ(destroying.Count(), 1U);
+    EXPECT_EQ(destroying.Calls().front(), std::tuple(left));
+    Open();
+    Close();
+    ASSERT_EQ(destroying.Count(), 2U); // not the same one again
+    EXPECT_NE(destroying.Calls().back(), std::tuple(left));
 }
 
 TEST_F(SettingsDialogLife, LeavesNothingWhenTheInstanceEnds)

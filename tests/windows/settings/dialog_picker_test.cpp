@@ -182,6 +182,81 @@ TEST_F(SettingsPicker, APenOnTheWheelCountsToo)
     ExpectNear(Shown().hue, 90);
 }
 
+TEST_F(SettingsPicker, ADragHasTheMouseUntilTheButtonIsReleased)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press(FromMiddle(WheelArea, 0, 40));
+    EXPECT_EQ(GetCapture(), Dialog());
+    Press(FromMiddle(WheelArea, 0, 40)); // a pen and its button
+    MoveTo(FromMiddle(WheelArea, 0, -40));
+    ExpectNear(Shown().hue, 270);
+    LetGo();
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST_F(SettingsPicker, AReleaseWithoutADragTakesTheMouseFromNobody)
+{
+    OpenWithColour(0x00FFFFFF);
+    SetCapture(library.GetWindowHandle());
+    LetGo();
+    EXPECT_EQ(GetCapture(), library.GetWindowHandle());
+    ReleaseCapture();
+}
+
+// The test's own pointer presses, leaves the dialog and lets go there.
+TEST_F(SettingsPicker, AReleaseOutsideTheDialogEndsTheDrag)
+{
+    OpenWithColour(0x00FFFFFF);
+    const auto point = [this](POINT at, DWORD button) {
+        cursor.Set(at);
+        SetCursorPos(at.x, at.y);
+        mouse_event(button, 0, 0, 0, 0);
+        SettleScreen();
+    };
+    RECT place{};
+    GetWindowRect(Dialog(), &place);
+    point(FromMiddle(WheelArea, 30, 0), MOUSEEVENTF_LEFTDOWN);
+    const std::uint32_t dragged = Record().inkColor;
+    ASSERT_NE(dragged, 0x00FFFFFFU);
+    point({place.left - 30, place.top - 30}, MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(GetCapture(), nullptr);
+    MoveTo(FromMiddle(WheelArea, -30, 0));
+    EXPECT_EQ(Record().inkColor, dragged);
+}
+
+TEST_F(SettingsPicker, LosingTheMouseEndsTheDrag)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press({0, 0});
+    SetCapture(library.GetWindowHandle());
+    ReleaseCapture();
+    MoveTo(FromMiddle(WheelArea, 30, 0));
+    EXPECT_EQ(Record().inkColor, 0x00FFFFFFU);
+}
+
+TEST_F(SettingsPicker, TheMouseTakenByTheDialogItselfIsNotLost)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press({0, 0});
+    SendMessageW(Dialog(), WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(Dialog()));
+    MoveTo(FromMiddle(WheelArea, 30, 0));
+    EXPECT_NE(Record().inkColor, 0x00FFFFFFU);
+}
+
+TEST_F(SettingsPicker, ClosingEndsTheDrag)
+{
+    OpenWithColour(0x00FFFFFF);
+    Press({0, 0});
+    HWND closed = Dialog();
+    Close();
+    EXPECT_EQ(GetCapture(), nullptr);
+    Open();
+    MoveTo(FromMiddle(WheelArea, 30, 0));
+    EXPECT_EQ(Record().inkColor, 0x00FFFFFFU);
+    SendMessageW(closed, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    EXPECT_EQ(GetCapture(), nullptr);
+}
+
 TEST_F(SettingsPicker, TheSwatchIsAsTheRecord)
 {
     OpenWithColour(0x00804020);
