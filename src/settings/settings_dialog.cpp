@@ -39,7 +39,7 @@ void SettingsDialog::OnEnd()
     if (dialog != nullptr) {
         SendMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); // harmless when it died with its owner
     }
-    if (IsWindow(dialog)) {
+    if (dialog != nullptr && IsWindow(dialog)) {
         OnClose_(); // the procedure serves a later object by now
     }
     if (g_settingsDialog == this) {
@@ -146,12 +146,9 @@ void SettingsDialog::OnUse_(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         OnCommand_(window, LOWORD(wParam), HIWORD(wParam));
         break;
     case WM_LBUTTONDOWN:
+    case WM_POINTERDOWN:
         dragging = true;
-        SetCapture(window); // the button's release is to arrive, wherever it happens
-        DragPicker_(window);
-        break;
-    case WM_POINTERDOWN: // the system makes a button of it afterwards, which takes the capture
-        dragging = true;
+        SetCapture(window); // the release is to arrive, wherever it happens
         DragPicker_(window);
         break;
     case WM_MOUSEMOVE:

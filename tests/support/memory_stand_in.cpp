@@ -1,12 +1,9 @@
 // Stands in for the C runtime's allocation behind the unmodified library.
 #include "support/memory_stand_in.h"
 
-#include <algorithm>
 #include <cstdlib>
-#include <cstring>
-#include <map>
+#include <set>
 #include <utility>
-#include <vector>
 
 namespace zq::LM::test {
 
@@ -18,12 +15,7 @@ void (*g_release)(void*) = nullptr;
 MemoryStandIn::Rule g_rule;
 unsigned g_number = 0;
 unsigned g_refused = 0;
-std::map<const void*, std::size_t> g_held; // with their sizes
-
-constexpr unsigned char Filling = 0xDD;
-constexpr std::size_t LargestKept = std::size_t{1} << 20;
-bool g_keepsFreed = false;
-std::vector<std::pair<unsigned char*, std::size_t>> g_freed;
+std::set<const void*> g_held;
 
 void* Allocate(std::size_t size)
 {
@@ -32,29 +24,14 @@ void* Allocate(std::size_t size)
         return nullptr;
     }
     void* block = g_allocate(size);
-    g_held[block] = size;
+    g_held.insert(block);
     return block;
 }
 
 void Release(void* block)
 {
-    const auto held = g_held.find(block);
-    const std::size_t size = held != g_held.end() ? held->second : 0;
-    if (held != g_held.end()) {
-        g_held.erase(held);
-    }
-    if (!g_keepsFreed || size == 0 || size > LargestKept) {
-        g_release(block);
-        return;
-    }
-    std::memset(block, Filling, size);
-    g_freed.emplace_back(static_cast<unsigned char*>(block), size);
-}
-
-bool IsUntouched(const std::pair<unsigned char*, std::size_t>& freed)
-{
-    return std::all_of(freed.first, freed.first + freed.second,
-                       [](unsigned char byte) { return byte == Filling; });
+    g_held.erase(block);
+    g_release(block);
 }
 
 } // namespace
@@ -68,21 +45,6 @@ MemoryStandIn::MemoryStandIn(HMODULE library)
     g_held.clear();
     RefuseNothing();
     g_refused = 0;
-}
-
-MemoryStandIn::~MemoryStandIn() { WrittenAfterFree(); }
-
-void MemoryStandIn::KeepFreed() { g_keepsFreed = true; }
-
-std::size_t MemoryStandIn::WrittenAfterFree()
-{
-    g_keepsFreed = false;
-    const auto untouched = std::count_if(g_freed.begin(), g_freed.end(), IsUntouched);
-    const std::size_t written = g_freed.size() - static_cast<std::size_t>(untouched);
-    for (const auto& [block, size] : std::exchange(g_freed, {})) {
-        g_release(block);
-    }
-    return written;
 }
 
 void MemoryStandIn::RefuseWhen(Rule rule)

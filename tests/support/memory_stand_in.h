@@ -12,7 +12,6 @@ namespace zq::LM::test {
 class MemoryStandIn {
 public:
     explicit MemoryStandIn(HMODULE library);
-    ~MemoryStandIn();
 
     // Asked for each allocation: its size, and its number since this rule came into force, from 1 on.
     using Rule = std::function<bool(std::size_t size, unsigned number)>;
@@ -23,13 +22,6 @@ public:
 
     // Blocks allocated since construction and not freed yet.
     std::size_t HeldBlocks() const;
-
-    // From now on freed blocks are not given back: what reads them finds no pointer in them, and what writes
-    // to them is found out. The largest ones, of which there is nothing to learn, go as always.
-    void KeepFreed();
-
-    // How many of the kept blocks were written to. They are given back, and none is kept any more.
-    std::size_t WrittenAfterFree();
 
 private:
     ImportPatch allocate;

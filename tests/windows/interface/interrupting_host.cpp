@@ -101,7 +101,8 @@ void InterruptingHost::ExpectIntact()
     ExpectNoSheet_();
     PumpMessages();
     DestroyAndForget();
-    EXPECT_EQ(memory.WrittenAfterFree(), 0U);
+    EXPECT_EQ(FreedMemory::Written(), 0U);
+    freed.reset();
 
     const HWND window = library.Create();
     EXPECT_TRUE(IsWindow(window));

@@ -2,11 +2,12 @@
 #pragma once
 
 #include "lumora/brush_data.h"
-#include "support/memory_stand_in.h"
+#include "support/freed_memory.h"
 #include "windows/window/window_test.h"
 
 #include <array>
 #include <functional>
+#include <optional>
 
 namespace zq::LM::test {
 
@@ -62,7 +63,7 @@ protected:
     // a new instance works and is the only one.
     void ExpectIntact();
 
-    MemoryStandIn memory{library.Module()};
+    void KeepFreedMemory() { freed.emplace(library.Module()); }
 
 private:
     void ExpectNoSheet_() const;
@@ -70,6 +71,7 @@ private:
     Moment armedMoment = Moment::Before;
     unsigned countdown = 0;
     std::function<void()> action;
+    std::optional<FreedMemory> freed;
 };
 
 } // namespace zq::LM::test

@@ -69,7 +69,7 @@ void Interruption::InterruptEachCall(Moment moment, const Action& action)
     for (unsigned number = 1; number < Plenty && !HasFailure(); ++number) {
         SCOPED_TRACE(action.name + std::string(" in call ") + std::to_string(number));
         Choose(ChooseGDI);
-        memory.KeepFreed();
+        KeepFreedMemory();
         Arm(moment, number, [this, &action] { (this->*action.run)(); });
         Live();
         const bool wasInterrupted = HasFired();
@@ -168,7 +168,6 @@ protected:
                                  nullptr, nullptr, nullptr, nullptr);
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure_));
         SetActiveWindow(window);
-        memory.KeepFreed();
     }
     ~HostWindow() override
     {
@@ -198,7 +197,7 @@ TEST_F(HostWindow, MayEndTheInstanceWhenTheDialogTakesTheActivation)
 {
     for (const Action& action : Actions) {
         SCOPED_TRACE(action.name);
-        memory.KeepFreed();
+        KeepFreedMemory();
         const HWND overlay = library.Create();
         SetActiveWindow(window);
         Await([this, &action] { (this->*action.run)(); });
@@ -212,7 +211,7 @@ TEST_F(HostWindow, MayEndTheInstanceWhenTheOverlayTakesTheActivation)
 {
     for (const Action& action : Actions) {
         SCOPED_TRACE(action.name);
-        memory.KeepFreed();
+        KeepFreedMemory();
         SetActiveWindow(window);
         Await([this, &action] { (this->*action.run)(); });
         CheckHandle(library.Create());

@@ -1,11 +1,10 @@
 // What the menu's commands do, in which order, and what they write to the log.
+#include "support/freed_memory.h"
 #include "windows/ui/tray_test.h"
 
 #include <commdlg.h>
-#include <malloc.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 namespace zq::LM::test {
@@ -14,17 +13,6 @@ namespace {
 
 constexpr std::uint32_t Normal = 2;
 const Lines LinesOfCommand = {"WM_COMMAND ... ", "InvalidateRect is called.\n", "done\n"};
-
-#ifdef __MINGW32__
-// So that a use of memory that was given back shows. Other static runtimes import no allocator.
-void OverwriteInsteadOfFreeing(void* block)
-{
-    constexpr int Overwritten = 0xDD;
-    if (block != nullptr) {
-        std::memset(block, Overwritten, _msize(block));
-    }
-}
-#endif
 
 } // namespace
 
@@ -219,9 +207,7 @@ TEST_F(CommandsTest, TheDialogIsOpenBetweenTheFirstLineAndTheRepaint)
 // A dialog lets the host's code run, which may end the instance.
 TEST_F(CommandsTest, AnInstanceThatEndsWhileTheDialogIsOpenIsTouchedNoMore)
 {
-#ifdef __MINGW32__
-    const ImportPatch free(library.Module(), "msvcrt.dll", "free", AsAddress(OverwriteInsteadOfFreeing));
-#endif
+    const FreedMemory freed(library.Module());
     CreateWithTray(Normal);
     AnswerSaveDialog(FALSE);
     whileDialogIsOpen = [this] {
@@ -233,6 +219,7 @@ TEST_F(CommandsTest, AnInstanceThatEndsWhileTheDialogIsOpenIsTouchedNoMore)
     EXPECT_EQ(Command(SaveCommand), 0);
     EXPECT_EQ(calls.Take(), Lines{});
     EXPECT_EQ(debugger.Texts(), Lines{"done\n"});
+    EXPECT_EQ(FreedMemory::Written(), 0U);
     EXPECT_EQ(library.GetWindowHandle(), nullptr);
 }
 
