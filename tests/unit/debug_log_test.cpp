@@ -110,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LevelCase{254, true, true, true, false}, LevelCase{255, true, true, true, true},
                     LevelCase{256, true, true, true, false}, LevelCase{1000, true, true, true, false},
                     LevelCase{0xFFFFFFFF, true, true, true, false}),
-    [](const testing::TestParamInfo<LevelCase>& info) { return std::to_string(info.param.inForce); });
+    [](const testing::TestParamInfo<LevelCase>& tested) { return std::to_string(tested.param.inForce); });
 
 TEST(DebugLog, ComparesLevelsUnsigned)
 {

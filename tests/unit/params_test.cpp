@@ -119,8 +119,8 @@ TEST_P(OptionBits, MaskSelectsTheBit)
 }
 
 INSTANTIATE_TEST_SUITE_P(Flags, OptionBits, testing::ValuesIn(OptionCases),
-                         [](const testing::TestParamInfo<OptionCase>& info) {
-                             return std::string(info.param.name);
+                         [](const testing::TestParamInfo<OptionCase>& tested) {
+                             return std::string(tested.param.name);
                          });
 
 TEST(OptionBits, DefaultsAreCursorLineAndPressure)

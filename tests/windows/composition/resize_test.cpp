@@ -127,8 +127,8 @@ TEST_P(LostDeviceTest, IsOverWithTheNextRebuild)
 
 INSTANTIATE_TEST_SUITE_P(Results, LostDeviceTest,
                          testing::Values(DXGI_ERROR_DEVICE_REMOVED, DXGI_ERROR_DEVICE_RESET),
-                         [](const testing::TestParamInfo<HRESULT>& info) {
-                             return info.param == DXGI_ERROR_DEVICE_REMOVED ? "Removed" : "Reset";
+                         [](const testing::TestParamInfo<HRESULT>& tested) {
+                             return tested.param == DXGI_ERROR_DEVICE_REMOVED ? "Removed" : "Reset";
                          });
 
 TEST_F(ResizeTest, MakesTheTargetAgainAfterAnyOtherFailure)

@@ -251,8 +251,8 @@ INSTANTIATE_TEST_SUITE_P(
                     FailingStep{"DWriteCreateFactory", 1, Frames::Complete},
                     FailingStep{"D2DFactory.CreateStrokeStyle", 1, Frames::Complete},
                     FailingStep{"WriteFactory.CreateTextFormat", 1, Frames::Complete}),
-    [](const testing::TestParamInfo<FailingStep>& info) {
-        std::string name = info.param.step;
+    [](const testing::TestParamInfo<FailingStep>& tested) {
+        std::string name = tested.param.step;
         std::erase(name, '.');
         return name;
     });

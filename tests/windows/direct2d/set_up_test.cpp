@@ -126,8 +126,8 @@ INSTANTIATE_TEST_SUITE_P(Steps, D2DFailingSetUpTest,
                                          FailingStep{"DWriteCreateFactory", 2, true},
                                          FailingStep{"WriteFactory.CreateTextFormat", 3, true},
                                          FailingStep{"D2DFactory.CreateDCRenderTarget", 4, false}),
-                         [](const testing::TestParamInfo<FailingStep>& info) {
-                             std::string name = info.param.step;
+                         [](const testing::TestParamInfo<FailingStep>& tested) {
+                             std::string name = tested.param.step;
                              std::erase(name, '.');
                              return name;
                          });
