@@ -34,9 +34,11 @@ void OverlayTest::Input(const std::vector<LM_PenData>& samples) const
     library.InputPenDataArray(samples.data(), samples.size());
 }
 
+void OverlayTest::PaintOnce() const { UpdateWindow(library.GetWindowHandle()); }
+
 void OverlayTest::Paint() const
 {
-    UpdateWindow(library.GetWindowHandle());
+    PaintOnce();
     SettleScreen();
 }
 

@@ -47,7 +47,8 @@ protected:
     LM_Params Params() const;
     void SetParams(const LM_Params& params) const { library.SetParams(&params); }
     void Input(const std::vector<LM_PenData>& samples) const;
-    void Paint() const; // and waits until it is on the screen
+    void Paint() const; // and waits until it is on the screen; Wine 10 paints again what has become visible
+    void PaintOnce() const; // one frame exactly
     void InputAndPaint(const std::vector<LM_PenData>& samples) const;
     void Tick() const { SendMessageW(library.GetWindowHandle(), WM_TIMER, 12345, 0); }
     void Choose(WPARAM command) const { SendMessageW(library.GetWindowHandle(), WM_COMMAND, command, 0); }

@@ -100,7 +100,7 @@ HWND CreateDesktopWindow(HINSTANCE instance)
     HWND window = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, ClassName, L"Lumora demo desktop",
                                   WS_POPUP | WS_CLIPCHILDREN, 0, 0, GetSystemMetrics(SM_CXSCREEN),
                                   GetSystemMetrics(SM_CYSCREEN), nullptr, nullptr, instance, nullptr);
-    if (window != nullptr && !BecomeShellWindow(window)) {
+    if (window != nullptr && GetShellWindow() == nullptr && !BecomeShellWindow(window)) {
         DestroyWindow(window);
         MSG quit = {};
         PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);

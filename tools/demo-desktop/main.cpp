@@ -1,4 +1,4 @@
-// lumora-demo-desktop: a desktop and an ordinary window, to see the overlay on where no shell runs.
+// lumora-demo-desktop: a desktop and an ordinary window, to see the overlay on where no desktop is shown.
 #include "desktop_window.h"
 #include "note_window.h"
 
@@ -46,6 +46,13 @@ void PumpMessages()
     }
 }
 
+// Wine 10 names its bare root window the shell's, and shows nothing on it.
+bool IsDesktopShown()
+{
+    HWND shell = GetShellWindow();
+    return shell != nullptr && shell != GetDesktopWindow();
+}
+
 void CALLBACK EndOfTime(HWND, UINT, UINT_PTR, DWORD) { PostQuitMessage(0); }
 
 } // namespace
@@ -59,11 +66,10 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int)
         return ExitWrongInput;
     }
     SetProcessDPIAware();
-    const bool hasShell = GetShellWindow() != nullptr;
-    HWND desktop = hasShell ? nullptr : lumora::demo::CreateDesktopWindow(instance);
-    const wchar_t* hint = hasShell ? L"Another desktop is there already, so this program makes none." : L"";
-    HWND note = lumora::demo::CreateNoteWindow(instance, hint);
-    if (note == nullptr || (desktop == nullptr && !hasShell)) {
+    if (!IsDesktopShown() && lumora::demo::CreateDesktopWindow(instance) == nullptr) {
+        return ExitFailed;
+    }
+    if (lumora::demo::CreateNoteWindow(instance) == nullptr) {
         return ExitFailed;
     }
     SetTimer(nullptr, 0, *seconds * 1000, EndOfTime);

@@ -17,14 +17,9 @@ constexpr wchar_t Paragraph[] = L"The ink lies on a window of its own, above all
 constexpr int Margin = 20;
 constexpr int TextHeight = 20;
 
-struct Note {
-    const wchar_t* hint = L"";
-    unsigned clicks = 0;
-};
+unsigned g_clicks = 0; // there is one such window
 
-Note g_note; // there is one such window
-
-void PaintNote(HWND window, const Note& note)
+void PaintNote(HWND window)
 {
     const PaintScope scope(window);
     RECT area = {};
@@ -39,16 +34,15 @@ void PaintNote(HWND window, const Note& note)
     SetTextColor(scope.dc, RGB(64, 72, 84));
     InflateRect(&area, -Margin, -Margin);
     area.top += DrawTextW(scope.dc, Paragraph, -1, &area, DT_WORDBREAK) + Margin;
-    const std::wstring clicks = L"Clicks that reached this window: " + std::to_wstring(note.clicks);
-    area.top += DrawTextW(scope.dc, clicks.c_str(), -1, &area, DT_WORDBREAK) + Margin;
-    DrawTextW(scope.dc, note.hint, -1, &area, DT_WORDBREAK);
+    const std::wstring clicks = L"Clicks that reached this window: " + std::to_wstring(g_clicks);
+    DrawTextW(scope.dc, clicks.c_str(), -1, &area, DT_WORDBREAK);
 }
 
 LRESULT CALLBACK NoteProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
     case WM_PAINT:
-        PaintNote(window, g_note);
+        PaintNote(window);
         return 0;
     case WM_ERASEBKGND:
         return 1;
@@ -61,7 +55,7 @@ LRESULT CALLBACK NoteProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
-        ++g_note.clicks;
+        ++g_clicks;
         InvalidateRect(window, nullptr, FALSE);
         return 0;
     case WM_DESTROY:
@@ -74,7 +68,7 @@ LRESULT CALLBACK NoteProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 
 } // namespace
 
-HWND CreateNoteWindow(HINSTANCE instance, const wchar_t* hint)
+HWND CreateNoteWindow(HINSTANCE instance)
 {
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof(windowClass);
@@ -87,7 +81,6 @@ HWND CreateNoteWindow(HINSTANCE instance, const wchar_t* hint)
 
     const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
     const int screenHeight = GetSystemMetrics(SM_CYSCREEN);
-    g_note.hint = hint;
     HWND window = CreateWindowExW(0, ClassName, L"An ordinary window", WS_OVERLAPPEDWINDOW,
                                   screenWidth * 44 / 100, screenHeight * 50 / 100, screenWidth * 50 / 100,
                                   screenHeight * 36 / 100, nullptr, nullptr, instance, nullptr);

@@ -5,7 +5,6 @@
 
 namespace lumora::demo {
 
-// `hint` is shown below the text; it must outlive the window.
-HWND CreateNoteWindow(HINSTANCE instance, const wchar_t* hint);
+HWND CreateNoteWindow(HINSTANCE instance);
 
 } // namespace lumora::demo

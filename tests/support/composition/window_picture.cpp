@@ -2,6 +2,7 @@
 #include "support/composition/window_picture.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zq::LM::test {
 
@@ -52,7 +53,32 @@ public:
         }
     }
 
+    // Wine 10 takes the first picture of a size for unchanged when all of it is transparent, and leaves the
+    // window opaque. So a faint pixel comes before it. Never before later ones: Wine 10 has a window painted
+    // again where a pixel appears, and the paintings would not end.
     void ShowOn(HWND window)
+    {
+        if (IsFirstOfItsSize_(window)) {
+            constexpr std::uint32_t Faint = 0x01000000;
+            const std::uint32_t corner = std::exchange(*pixels, Faint);
+            Update_(window);
+            *pixels = corner;
+        }
+        Update_(window);
+    }
+
+private:
+    // The window itself remembers the size.
+    bool IsFirstOfItsSize_(HWND window) const
+    {
+        constexpr wchar_t Property[] = L"Lumora Test Picture Size";
+        const auto shown = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(MAKELONG(size.cx, size.cy)));
+        const bool isFirst = GetPropW(window, Property) != shown;
+        SetPropW(window, Property, shown);
+        return isFirst;
+    }
+
+    void Update_(HWND window)
     {
         GdiFlush();
         POINT origin{};
@@ -60,7 +86,6 @@ public:
         UpdateLayeredWindow(window, nullptr, nullptr, &size, dc, &origin, 0, &blend, ULW_ALPHA);
     }
 
-private:
     HDC dc;
     SIZE size;
     HBITMAP bitmap = nullptr;

@@ -31,7 +31,8 @@ protected:
     Lines LinesOfStroke()
     {
         graphics->Take();
-        Stroke(200, 300, 200);
+        Input({Sample(200, 200), Sample(300, 200)});
+        PaintOnce();
         Lines lines;
         for (const RecordedCall& call : graphics->Calls()) {
             if (call.method == "DrawLine") {

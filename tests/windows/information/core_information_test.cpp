@@ -326,11 +326,17 @@ TEST_F(ShellCoreTest, AfterTheCoresEndThereIsNoInformation)
 TEST_F(CoreInformationTest, WithoutAShellTheCoresOwnRectangleServes)
 {
     shell.Remove();
+    test::RecordedCore second; // a Core takes its rectangle while it is made
+    SetWindowCore(&second.Get());
+    second.Get().CreateOverlayWindow();
+    second.Take();
     const LogLevel level(BASIC);
-    CreateWindowOfCore();
-    const std::vector<std::string> calls = Present();
+    PresentCallback();
+    const std::vector<std::string> calls = second.Take();
     EXPECT_EQ(calls.at(0), "2: FillRect(-104, 300, 256, 444, 0x447f7f7f)");
     EXPECT_EQ(calls.at(10), "2: DrawText(Screen = {   0,    0,  256,  256}, -74, 152, 0xffff60)");
+    DestroyWindow(second.Get().Window());
+    SetWindowCore(&TheCore());
 }
 
 } // namespace

@@ -28,11 +28,16 @@ protected:
         calls.Record<"BitBlt">("GDI32.dll", BitBlt);
     }
 
-    // Paints the frame of an input without samples.
-    void Repaint() const
+    // An input without samples, whose frame is due.
+    void AskForAFrame() const
     {
         const LM_PenData unused{};
         library.InputPenDataArray(&unused, 0);
+    }
+
+    void Repaint() const
+    {
+        AskForAFrame();
         Paint();
     }
 
@@ -40,7 +45,8 @@ protected:
     {
         RecordDrawing();
         calls.Take();
-        Repaint();
+        AskForAFrame();
+        PaintOnce();
         return calls.Take();
     }
 
@@ -176,7 +182,7 @@ TEST_F(GdiInformationTest, TheDyingInksLastFrameCarriesItToo)
     RecordDrawing();
     calls.Take();
     Tick();
-    Paint();
+    PaintOnce();
     EXPECT_EQ(calls.Count("TextOutW"), 40U);
 }
 

@@ -279,9 +279,13 @@ protected:
             memory.RefuseNothing();
             test::PumpMessages();
             EXPECT_EQ(memory.HeldBlocks(), held) << "after failure of allocation " << number;
-            EXPECT_EQ(test::GdiObjects(), gdiObjects) << "after failure of allocation " << number;
             EXPECT_TRUE(test::WindowsOfClass(L"Lumora Window Class_").empty())
                 << "after failure of allocation " << number;
+            // Wine 10 keeps the bitmaps of the window destroyed last, and how many those are depends on how
+            // far it came. So the last one is always that of a whole life.
+            LiveThroughOnce();
+            test::PumpMessages();
+            EXPECT_EQ(test::GdiObjects(), gdiObjects) << "after failure of allocation " << number;
         } while (memory.Refused() != 0);
         EXPECT_GT(number, 10U); // there was something to fail
         EXPECT_GT(heard, 0U);
