@@ -1,11 +1,12 @@
 // What a frame of the DirectComposition back-end costs, through the delivered library on the stand-in for the
-// system's composition engine, by how many segments live.
+// system's composition engine, by how many segments live: lumora_composition_frame [FRAMES]
 #include "ink_library.h"
 
 #include "support/composition/composition_stand_in.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -13,7 +14,7 @@ namespace {
 using zq::LM::test::CompositionStandIn;
 using zq::LM::test::RecordedCall;
 
-constexpr int Frames = 31;
+constexpr int UsualFrames = 31;
 
 // In milliseconds.
 struct FrameCost {
@@ -89,13 +90,14 @@ HWND CreateWithSegments(const lumora::replay::InkLibrary& library, int segments)
     return window;
 }
 
-void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& composition, int segments)
+void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& composition, int segments,
+             int frames)
 {
     const HWND window = CreateWithSegments(library, segments);
     PaintOnce(window); // the first one moves the samples
     std::vector<double> whole;
     std::vector<FrameCost> parts;
-    for (int i = 0; i < Frames; ++i) {
+    for (int i = 0; i < frames; ++i) {
         composition.KeepCalls(false);
         whole.push_back(PaintOnce(window));
         composition.KeepCalls(true);
@@ -111,8 +113,13 @@ void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& comp
 
 } // namespace
 
-int main()
+int main(int count, char** arguments)
 {
+    const int frames = count > 1 ? std::atoi(arguments[1]) : UsualFrames;
+    if (count > 2 || frames < 1) {
+        std::fputs("Usage: lumora_composition_frame [FRAMES]\n", stderr);
+        return 2;
+    }
     try {
         const lumora::replay::InkLibrary library(lumora::replay::LibraryBesideProgram());
         CompositionStandIn composition(library.Module());
@@ -120,7 +127,7 @@ int main()
         std::puts("| segments | frame, ms | Direct2D, ms | present, ms | the rest, recorded, ms "
                   "|\n|---|---|---|---|---|");
         for (const int segments : {1, 30, 300, 1000}) {
-            Measure(library, composition, segments);
+            Measure(library, composition, segments, frames);
         }
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "composition_frame: %s\n", failure.what());

@@ -18,7 +18,7 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
-        if (run.run_type != Run::RT_Iteration || run.error_occurred) {
+        if (run.run_type != Run::RT_Iteration) {
             continue;
         }
         // The fastest repetition is the one that other programs disturbed least.

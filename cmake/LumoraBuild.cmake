@@ -10,7 +10,12 @@ set(CMAKE_C_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
-set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+# The library brings its C++ runtime along. Whatever it is linked with has to be built for the same one; a caller whose
+# libraries are not sets another. GoogleTest's source declares old policies and would not follow by itself.
+if(NOT CMAKE_MSVC_RUNTIME_LIBRARY)
+  set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+endif()
+set(CMAKE_POLICY_DEFAULT_CMP0091 NEW)
 
 if(LUMORA_DEBUG_SWITCH)
   add_compile_definitions(LUMORA_DEBUG_SWITCH)

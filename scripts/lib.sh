@@ -1,7 +1,9 @@
 # What the scripts share: installing packages and running named steps. Sourced, never run; bash only.
 # shellcheck shell=bash
 
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# CMake takes the way by which it came for the tree's place, so every way leads to the same one.
+unset CDPATH
+root=$(cd -P -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 logs=$root/build/logs
 
 # shellcheck disable=SC2034 # the lists are for the scripts that source this
@@ -13,6 +15,10 @@ buildPackages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest
 demoPackages=(xcompmgr xdotool x11-utils)
 # shellcheck disable=SC2034
 checkPackages=(clang-format clang-tidy)
+# shellcheck disable=SC2034
+fuzzPackages=(clang libclang-rt-dev)
+# shellcheck disable=SC2034
+benchPackages=(libbenchmark-dev)
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
@@ -35,7 +41,8 @@ install_packages() {
     if [ "$(id -u)" -ne 0 ]; then
         command -v sudo >/dev/null || fail "run it as root, or install these packages first: ${missing[*]}"
         sudo=(sudo)
-        sudo -v || fail "sudo refuses; install these packages first: ${missing[*]}"
+        # A user who needs no password for commands may still need one for -v.
+        sudo -n true 2>/dev/null || sudo -v || fail "sudo refuses; install these packages first: ${missing[*]}"
     fi
     run_step install "Installing ${#missing[@]} Debian packages: ${missing[*]}" \
         apt_install "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q

@@ -68,7 +68,8 @@ TEST_F(ReadRecordingTest, FolderIsNamedSo)
 
 TEST(ShippedRecording, IsWellFormedAndPlaysForFourToSixSeconds)
 {
-    const RecordingResult result = ReadRecording(SHIPPED_RECORDING);
+    // UTF-8 wherever the tree lies; an ordinary literal would be read in the system's code page.
+    const RecordingResult result = ReadRecording(u8"" SHIPPED_RECORDING);
     ASSERT_TRUE(std::holds_alternative<Recording>(result)) << std::get<RecordingError>(result).reason;
     const auto& samples = std::get<Recording>(result).samples;
     const std::uint32_t duration = samples.back().time - samples.front().time;
