@@ -41,6 +41,17 @@ TEST_F(ScreenTest, FadedInkIsSeenThroughAgain)
     EXPECT_EQ(TakePicture(Desktop).Count(Green), 640U * 480U);
 }
 
+TEST_F(ScreenTest, OverlayThatShrinksOnceItsInkHasFadedIsSeenThrough)
+{
+    InputAndPaint({Sample(100, 100), Sample(200, 100)});
+    Tick();
+    clock.Advance(1000);
+    shell.Move({Desktop.left, Desktop.top, Desktop.left + 300, Desktop.top + 200});
+    Tick();
+    Paint();
+    EXPECT_EQ(TakePicture(Desktop).Count(Green), 640U * 480U);
+}
+
 TEST_F(ScreenTest, WindowLeftByARebuildIsSeenThrough)
 {
     InputAndPaint({Sample(100, 100), Sample(200, 100)});

@@ -47,7 +47,9 @@ protected:
         calls.Take();
         AskForAFrame();
         PaintOnce();
-        return calls.Take();
+        Lines drawn = calls.Take();
+        SettleScreen();
+        return drawn;
     }
 
     // Whether any pixel of this part of the overlay is not the backdrop's.
