@@ -22,10 +22,11 @@ LONGLONG Ticks()
     return ticks.QuadPart;
 }
 
-// Waits end within a millisecond while one of these lives, instead of the system's usual 15.
+// Waits end within a millisecond while one of these lives, instead of the system's usual 15. Where the system
+// refuses, they are only coarser.
 struct FineTimer {
-    FineTimer() { timeBeginPeriod(1); }
-    ~FineTimer() { timeEndPeriod(1); }
+    FineTimer() { static_cast<void>(timeBeginPeriod(1)); }
+    ~FineTimer() { static_cast<void>(timeEndPeriod(1)); }
     FineTimer(const FineTimer&) = delete;
     FineTimer& operator=(const FineTimer&) = delete;
 };
