@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Change{Direct2DBackEnd, ChooseDirectComposition, "Direct2DToDirectComposition"},
                     Change{DirectCompositionBackEnd, ChooseGDI, "DirectCompositionToGDI"},
                     Change{DirectCompositionBackEnd, ChooseDirect2D, "DirectCompositionToDirect2D"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const auto& each) { return std::string(each.param.name); });
 
 // Those that draw into memory, where what they draw into cannot be made.
 class WithoutMemory : public BackEndTest, public testing::WithParamInterface<BackEnd> {
@@ -102,7 +102,7 @@ TEST_P(WithoutMemory, WithoutABitmapNothingIsSeenUntilThereIsOne) { ExpectRecove
 TEST_P(WithoutMemory, WithoutADeviceContextNothingIsSeenUntilThereIsOne) { ExpectRecovery(givesContexts); }
 
 INSTANTIATE_TEST_SUITE_P(Each, WithoutMemory, testing::Values(Direct2DBackEnd, GDIBackEnd),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& each) { return std::string(each.param.name); });
 
 // A shell that has no size for a while, as one that starts.
 class ShellWithoutSize : public BackEndTest, public testing::WithParamInterface<BackEnd> {
@@ -143,7 +143,7 @@ TEST_P(ShellWithoutSize, AtTheCreationFreezesTheOverlayNoLongerThanThat)
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, ShellWithoutSize, testing::ValuesIn(AllBackEnds),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& each) { return std::string(each.param.name); });
 
 } // namespace
 

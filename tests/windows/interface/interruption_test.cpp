@@ -112,9 +112,16 @@ INSTANTIATE_TEST_SUITE_P(Calls, EachCall,
                                          Call{"GetSaveFileNameA", &Interruption::AskForFiles},
                                          Call{"CreateDialogParamW", &Interruption::CreateDialogs},
                                          Call{"SendMessageW", &Interruption::SendMessages},
-                                         Call{"EndDialog", &Interruption::EndDialogs},
-                                         Call{"OutputDebugStringW", &Interruption::WriteLog}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                                         Call{"EndDialog", &Interruption::EndDialogs}),
+                         [](const auto& each) { return std::string(each.param.name); });
+
+// A handler of the debugger's output is host code as well. There are many lines, so one moment of each is
+// enough.
+TEST_F(Interruption, EachLineOfTheLogMayBeInterruptedByTheInstancesEnd)
+{
+    WriteLog();
+    InterruptEachCall(Moment::After, Actions.front());
+}
 
 // The messages of the library's windows, which a hook or a subclass of the host sees before the library does.
 class EachMessage : public Interruption, public testing::WithParamInterface<UINT> {
@@ -155,7 +162,7 @@ INSTANTIATE_TEST_SUITE_P(Messages, EachMessage,
                          testing::Values(WM_NCCREATE, WM_CREATE, WM_WINDOWPOSCHANGED, WM_SHOWWINDOW,
                                          WM_STYLECHANGED, WM_ERASEBKGND, WM_PAINT, WM_INITDIALOG,
                                          WM_SYSCOMMAND, WM_DESTROY, WM_NCDESTROY),
-                         [](const auto& info) { return "Number" + std::to_string(info.param); });
+                         [](const auto& each) { return "Number" + std::to_string(each.param); });
 
 // The plainest case, without any hook: a window of the host's that ends the overlay when it loses the
 // activation.

@@ -56,6 +56,19 @@ TEST_F(SettingsDialogLife, ClosingHidesItAndTheNextOpeningMakesANewOne)
     EXPECT_EQ(AllDialogs().size(), 2U);
 }
 
+// Before an input what it has changed is in the Core's record alone.
+TEST_F(SettingsDialogLife, WhatItHasChangedSurvivesAChangeOfTheBackEnd)
+{
+    Open();
+    Type(EditBrushSize, "77");
+    Type(EditInkLife, "888");
+    Click(CheckOffset);
+    Rebuild();
+    EXPECT_EQ(Params().brushSize, 77U);
+    EXPECT_EQ(Params().inkDecayTime, 888U);
+    EXPECT_EQ(Params().useOffset, 1);
+}
+
 TEST_F(SettingsDialogLife, TheTitleBarsOwnCloseCounts)
 {
     HWND closed = Open();

@@ -1,5 +1,4 @@
 // The change of the back-end: commands that only note it, and the pen input that rebuilds the overlay.
-#include "resources/resource_ids.h"
 #include "windows/window/window_test.h"
 
 #include <cstring>
@@ -10,7 +9,6 @@ namespace {
 
 constexpr COLORREF Green = RGB(0, 128, 0);
 constexpr RECT WholeScreen = {0, 0, 1024, 768};
-constexpr WPARAM SettingsCommand = 40001;
 
 ATOM WINAPI RefuseClass(const WNDCLASSEXW*) { return 0; }
 
@@ -233,23 +231,6 @@ TEST_F(RebuildTest, TheRecordSurvives)
     InputStroke();
     const LM_Params later = Params();
     EXPECT_EQ(std::memcmp(&later, &params, sizeof(params)), 0);
-}
-
-// What the dialog changes is in the Core's record alone, until an input hands it to the engine.
-TEST_F(RebuildTest, WhatTheDialogHasChangedSurvives)
-{
-    CreateWithGDI();
-    Choose(SettingsCommand);
-    HWND dialog = GetWindow(library.GetWindowHandle(), GW_ENABLEDPOPUP);
-    ASSERT_NE(GetDlgItem(dialog, EditBrushSize), nullptr);
-    SetDlgItemTextA(dialog, EditBrushSize, "77");
-    SetDlgItemTextA(dialog, EditInkLife, "888");
-    SendDlgItemMessageW(dialog, CheckOffset, BM_CLICK, 0, 0);
-    Choose(ChooseDirect2D);
-    InputStroke();
-    EXPECT_EQ(Params().brushSize, 77U);
-    EXPECT_EQ(Params().inkDecayTime, 888U);
-    EXPECT_EQ(Params().useOffset, 1);
 }
 
 TEST_F(RebuildTest, APickedColourSurvives)
