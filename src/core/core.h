@@ -96,7 +96,7 @@ private:
     void CreateBackEnds_();
     void CreateBrushDataServer_();
 
-    // As long as it lives, engine and back-ends are in use.
+    // As long as it lives, engine, back-ends and memory surface are in use.
     class DrawingScope {
     public:
         explicit DrawingScope(Core& core) : depth(core.drawingDepth) { ++depth; }
@@ -150,7 +150,7 @@ private:
     Owned<sc::WinGui::Tasktray> tasktray;
     FileVersion fileVersion;
     MemorySurface memorySurface;
-    unsigned drawingDepth = 0;   // calls that the ink engine or a back-end is on the stack of
+    unsigned drawingDepth = 0;   // calls that engine, back-ends or memory surface are in use by
     bool surfaceIsStale = false; // the screen has changed since the surface was made
     RenderingType boundType = RenderingType::DirectComposition; // whose back-end the window is set up for
     bool isBoundWithoutSize = false; // to a window of no size, on which a back-end may have failed

@@ -114,6 +114,7 @@ void Core::CreateSettingsDialog_()
 
 void Core::SetUpMemorySurface_()
 {
+    const DrawingScope scope(*this);
     surfaceIsStale = false;
     memorySurface.Release();
     SetMemoryDCEverywhere_(nullptr);
@@ -175,6 +176,7 @@ void Core::DrawFrame_()
 
 void Core::OnPaint()
 {
+    const DrawingScope scope(*this);
     FollowScreen_();
     if (!HasWindow_()) {
         return;

@@ -13,7 +13,7 @@ namespace {
 // into; it is put back when this ends.
 class KeptDirectory {
 public:
-    KeptDirectory() : path(CurrentDirectory()) {}
+    KeptDirectory() : path(CurrentDirectory_()) {}
     ~KeptDirectory()
     {
         if (!path.empty()) {
@@ -25,7 +25,7 @@ public:
 
 private:
     // Empty when there is none. Another thread may change to a longer one between two questions.
-    static std::wstring CurrentDirectory()
+    static std::wstring CurrentDirectory_()
     {
         std::wstring path(MAX_PATH, L'\0');
         for (;;) {

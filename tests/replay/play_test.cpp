@@ -55,7 +55,6 @@ protected:
         return count;
     }
 
-private:
     // One straight stroke, a sample every so many milliseconds.
     static std::string Stroke(int period)
     {
@@ -68,6 +67,7 @@ private:
         return text.str();
     }
 
+private:
     Gdiplus::GdiplusStartupInput input;
     ULONG_PTR gdiplus = 0;
 };
@@ -86,10 +86,10 @@ TEST_F(Play, ShowsInkOnTheDefaultBackEndAndTakesItAway)
 // Each rebuild may take a busy machine some hundred milliseconds, in which play goes on.
 TEST_F(Play, FollowsSwitchesOfTheBackEnd)
 {
-    Write("stroke.svc", Stroke(60)); // 9 s
+    Write("stroke.svc", Stroke(40)); // 6 s
     const Outcome outcome =
-        PlayWithStandIn(L"--switch 50:gdi --screenshot 4000:gdi.png --switch 4050:composition "
-                        L"--screenshot 8900:back.png --screenshot 11500:gone.png");
+        PlayWithStandIn(L"--life 2500 --switch 50:gdi --screenshot 2800:gdi.png --switch 2850:composition "
+                        L"--screenshot 5900:back.png --screenshot 9500:gone.png");
     EXPECT_EQ(outcome.status, 0U) << outcome.error;
     EXPECT_GT(ReddishPixels(L"gdi.png"), FewestInkPixels);
     EXPECT_GT(ReddishPixels(L"back.png"), FewestInkPixels);

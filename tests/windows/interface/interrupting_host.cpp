@@ -8,10 +8,11 @@
 
 namespace zq::LM::test {
 
-const std::array<InterruptingHost::Action, 5> InterruptingHost::Actions = {{
+const std::array<InterruptingHost::Action, 6> InterruptingHost::Actions = {{
     {"destroys", &InterruptingHost::DestroyInside},
     {"creates", &InterruptingHost::CreateInside},
     {"creates, and destroys within", &InterruptingHost::CreateAndDestroyInside},
+    {"destroys the window", &InterruptingHost::DestroyWindowInside},
     {"rebuilds", &InterruptingHost::RebuildInside},
     {"uses", &InterruptingHost::UseInside},
 }};
@@ -75,11 +76,12 @@ void InterruptingHost::Live()
     send(RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
     send(WM_COMMAND, SettingsCommand, 0);
     SetParams(Params());
-    Choose(ChooseDirect2D);
+    Choose(ChooseDirectComposition);
+    InputStroke();
+    Choose(ChooseGDI);
     InputStroke();
     InputStroke();
     paint();
-    Choose(ChooseGDI);
     library.Create();
     send(WM_COMMAND, SettingsCommand, 0);
     library.Destroy();

@@ -45,11 +45,12 @@ protected:
         const char* name;
         void (InterruptingHost::*run)();
     };
-    static const std::array<Action, 5> Actions;
+    static const std::array<Action, 6> Actions;
 
     void DestroyInside() { library.Destroy(); }
     void CreateInside() { CheckHandle(library.Create()); }
     void CreateAndDestroyInside(); // destroys in the next such call, which belongs to that creation
+    void DestroyWindowInside() { ::DestroyWindow(library.GetWindowHandle()); }
     void RebuildInside();
     void UseInside(); // everything that neither makes nor ends an instance
 

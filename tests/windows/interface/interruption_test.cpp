@@ -18,6 +18,10 @@ BOOL WINAPI NobodyChooses(OPENFILENAMEA*) { return FALSE; }
 void WINAPI DebuggerReads(LPCWSTR) {}
 BOOL WINAPI ComesForward(HWND) { return TRUE; }
 
+// Their arguments are not looked at.
+HRESULT WINAPI NoDevice() { return E_FAIL; }
+int WINAPI DrawsNothing() { return 0; }
+
 bool IsOfLibrary(HWND window)
 {
     wchar_t name[64]{};
@@ -46,6 +50,8 @@ public:
     void CreateDialogs() { Interrupt<"CreateDialogParamW">("USER32.dll", CreateDialogParamW); }
     void SendMessages() { Interrupt<"SendMessageW">("USER32.dll", ::SendMessageW); }
     void EndDialogs() { Interrupt<"EndDialog">("USER32.dll", EndDialog); }
+    void MakeDevices() { Interrupt<"D3D11CreateDevice">("d3d11.dll", NoDevice); }
+    void DrawLines() { Interrupt<"GdipDrawLineI">("gdiplus.dll", DrawsNothing); }
     void WriteLog() { Interrupt<"OutputDebugStringW">("KERNEL32.dll", DebuggerReads); }
 
 protected:
@@ -68,7 +74,7 @@ void Interruption::InterruptEachCall(Moment moment, const Action& action)
     constexpr unsigned Plenty = 200;
     for (unsigned number = 1; number < Plenty && !HasFailure(); ++number) {
         SCOPED_TRACE(action.name + std::string(" in call ") + std::to_string(number));
-        Choose(ChooseGDI);
+        Select(ChooseGDI);
         KeepFreedMemory();
         Arm(moment, number, [this, &action] { (this->*action.run)(); });
         Live();
@@ -112,7 +118,9 @@ INSTANTIATE_TEST_SUITE_P(Calls, EachCall,
                                          Call{"GetSaveFileNameA", &Interruption::AskForFiles},
                                          Call{"CreateDialogParamW", &Interruption::CreateDialogs},
                                          Call{"SendMessageW", &Interruption::SendMessages},
-                                         Call{"EndDialog", &Interruption::EndDialogs}),
+                                         Call{"EndDialog", &Interruption::EndDialogs},
+                                         Call{"D3D11CreateDevice", &Interruption::MakeDevices},
+                                         Call{"GdipDrawLineI", &Interruption::DrawLines}),
                          [](const auto& each) { return std::string(each.param.name); });
 
 // A handler of the debugger's output is host code as well. There are many lines, so one moment of each is
