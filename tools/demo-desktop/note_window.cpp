@@ -13,7 +13,7 @@ constexpr wchar_t Paragraph[] = L"The ink lies on a window of its own, above all
                                 L"ink that window cannot be seen, and it "
                                 L"never takes the mouse: what you read here stays readable, and a click on "
                                 L"the ink is a click on this window. "
-                                L"Each stroke fades from its tail while the pen writes on at its head.";
+                                L"What was written first goes first, and the pen need not wait for it.";
 constexpr int Margin = 20;
 constexpr int TextHeight = 20;
 
