@@ -21,11 +21,8 @@ protected:
     Endable() = default;
     virtual ~Endable() = default;
 
-    // Runs once, when the owner lets go, before the destructor.
+    // Runs once, when the owner lets go. The destructor follows at once, or when the last call has returned.
     virtual void OnEnd() {}
-
-    // In OnEnd: whether calls are running, so that the destructor comes later.
-    bool IsHeld() const { return holders.load(std::memory_order_relaxed) > 1; }
 
 private:
     friend class Hold;
