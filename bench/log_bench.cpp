@@ -1,5 +1,5 @@
 // A log call that the level filters out beside the bare comparison of two numbers.
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 
 #include <benchmark/benchmark.h>
 

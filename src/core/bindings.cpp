@@ -2,7 +2,7 @@
 #include "core/bindings.h"
 
 #include "core/core.h"
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "platform/win32/gdi_owners.h"
 #include "render/drawing_lib.h"
 #include "render/key_fill.h"

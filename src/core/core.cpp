@@ -3,7 +3,7 @@
 
 #include "core/bindings.h"
 #include "core/make_or_null.h"
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "render/d2d.h"
 #include "render/direct_composition.h"
 #include "render/gdi.h"

@@ -1,6 +1,6 @@
 // The Core's side of the tray: icon, menu and the menu's commands.
 #include "core/core.h"
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "render/rendering_type.h"
 #include "resources/resource_ids.h"
 #include "ui/log_commands.h"

@@ -1,7 +1,7 @@
 // The ink engine's sample store: pending and live samples, ageing and the report rate.
 #include "ink/drawing.h"
 #include "ink/time_warning.h"
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "platform/clock.h"
 
 #include <utility>

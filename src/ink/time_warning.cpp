@@ -1,7 +1,7 @@
 // The log line about a time difference that runs backwards.
 #include "ink/time_warning.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 
 #include <cstdio>
 

@@ -1,8 +1,8 @@
 // The exported functions' bodies.
 #include "interface/call_func.h"
 
-#include "interface/debug_log.h"
 #include "interface/instance.h"
+#include "log/debug_log.h"
 #include "platform/build_options.h"
 #include "ui/user_interface_switch.h"
 

@@ -1,8 +1,8 @@
 // What the library does when the system tells it of processes and threads.
 #include "interface/library_notification.h"
 
-#include "interface/debug_log.h"
 #include "interface/instance.h"
+#include "log/debug_log.h"
 #include "platform/build_options.h"
 
 namespace zq::LM {

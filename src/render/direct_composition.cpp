@@ -1,7 +1,7 @@
 // The DirectComposition back-end: its slots, all forwarded to the device chain.
 #include "render/direct_composition.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "render/direct_composition_impl.h"
 
 #include <new>

@@ -1,5 +1,5 @@
 // The device chain of the DirectComposition back-end: frames and what is drawn in them.
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "render/d2d_rules.h"
 #include "render/direct_composition_impl.h"
 #include "render/line_rules.h"

@@ -1,7 +1,7 @@
 // The device chain of the DirectComposition back-end: how it is made, resized and released.
 #include "render/direct_composition_impl.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "render/d2d_rules.h"
 #include "render/require.h"
 

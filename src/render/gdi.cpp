@@ -1,7 +1,7 @@
 // The GDI back-end.
 #include "render/gdi.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "platform/win32/gdiplus_flat.h"
 #include "render/gdi_lines.h"
 #include "render/key_fill.h"

@@ -1,7 +1,7 @@
 // Which back-end is active, for the whole process.
 #include "render/rendering_type.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 
 namespace zq::LM {
 

@@ -1,7 +1,7 @@
 // The brush-data server: start, worker and stop.
 #include "settings/brush_data_server.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 
 #include <array>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // The menu commands that set the log level, and which of them stands for a level.
 #include "ui/log_commands.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "resources/resource_ids.h"
 
 namespace zq::LM {

@@ -1,7 +1,7 @@
 // The overlay window: its class, its creation and its message table.
 #include "ui/overlay_window.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "render/rendering_type.h"
 #include "render/shell_window.h"
 #include "ui/tray_message.h"

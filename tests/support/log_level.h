@@ -1,7 +1,7 @@
 // A log level that holds while a test's scope does.
 #pragma once
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 
 #include <cstdint>
 

@@ -1,5 +1,5 @@
 // The debug log: which lines a level lets through, and on which of the two channels they leave.
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "support/log_level.h"
 #include "support/recorded_log.h"
 

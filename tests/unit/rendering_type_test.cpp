@@ -1,7 +1,7 @@
 // The active back-end's type and the line that consulting it writes.
 #include "render/rendering_type.h"
 
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 #include "support/log_level.h"
 #include "support/recorded_log.h"
 

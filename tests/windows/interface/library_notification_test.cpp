@@ -1,8 +1,8 @@
 // What the library says and does at process and thread notifications. Its code is linked into this program,
 // so that it can be told of any notification in any state.
-#include "interface/debug_log.h"
 #include "interface/instance.h"
 #include "interface/library_notification.h"
+#include "log/debug_log.h"
 #include "support/log_level.h"
 #include "support/recorded_log.h"
 

@@ -1,5 +1,5 @@
 // The debug log's state and its way out.
-#include "interface/debug_log.h"
+#include "log/debug_log.h"
 
 #include "platform/debugger_output.h"
 
