@@ -145,13 +145,6 @@ TEST_F(Strokes, TwoTouchingSamplesMakeOneLine)
     EXPECT_EQ(Frame(), (Calls{Clear(), Main(10), Present()}));
 }
 
-TEST_F(Strokes, WidthFollowsTheNewerSamplesPressure)
-{
-    Set([](Params& params) { params.usePressure = 1; });
-    Add({Sample({100, 200}, 1), Sample({110, 210}, 16384)});
-    EXPECT_EQ(Drawn(), Calls{Main(5)});
-}
-
 TEST_F(Strokes, FlagsAreReadInTwoWays)
 {
     AddSegment();

@@ -63,22 +63,5 @@ TEST_F(EngineLog, LinesAppearAtTheseLevels)
     }
 }
 
-TEST_F(EngineLog, FrameWarnsInTheOrderOfItsStepsAlsoAboutAHoveringPen)
-{
-    Set([](Params& params) { params.outline = 1; });
-    AddAt(50, {1, 1}, Hovering);
-    AddAt(20, {2, 1}, Hovering);
-    MoveClock(0);
-    const LogLevel level(DETAILED);
-    const RecordedLog log;
-    Frame();
-    EXPECT_EQ(log.Texts(),
-              (Texts{"\tMovePenData_ is locked.\n", "\tMovePenData_ is unlocked.\n",
-                     "Warning (zq::LM::Drawing::CalcPenReportRate_) : time_sub = -30\n",
-                     "Warning (zq::LM::Drawing::DeleteOldPenDataCore_) : time_sub = -50\n",
-                     "Warning (zq::LM::Drawing::DrawLumoraLinesBody_Outline_) : time_sub = -30\n",
-                     "Warning (zq::LM::Drawing::DrawLumoraLinesBody_Main_) : time_sub = -50\n"}));
-}
-
 } // namespace
 } // namespace zq::LM::test

@@ -174,7 +174,7 @@ std::string Difference(const Steps& steps)
 
 TEST(EngineModel, RandomWalksAgreeWithTheReference)
 {
-    constexpr std::uint32_t Walks = 400;
+    constexpr std::uint32_t Walks = 600;
     constexpr std::size_t StepsInAWalk = 80;
     // The same walks every time, but for shuffled runs: --gtest_shuffle --gtest_repeat=100 goes on to others.
     const int run = testing::GTEST_FLAG(shuffle) ? testing::UnitTest::GetInstance()->random_seed() : 0;

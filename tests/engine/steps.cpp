@@ -9,43 +9,48 @@ namespace zq::LM::test {
 
 namespace {
 
-struct Printer {
+// A scale without a number is left to be written by hand.
+class Printer {
+public:
+    explicit Printer(std::ostream& out) : out(out) { out << std::boolalpha << std::setprecision(17); }
+
     void operator()(const AddSamples& step) const
     {
         out << "AddSamples{{";
         for (const PenData& sample : step.samples) {
-            out << "{" << sample.time << "u, " << sample.aux1 << "u, " << sample.x << ", " << sample.y << ", "
-                << sample.aux4 << "u, " << sample.pressure << ", " << sample.aux6 << "u, " << sample.aux7
-                << "u, " << sample.aux8 << "u}, ";
+            Put("", sample.time, sample.aux1, sample.x, sample.y, sample.aux4, sample.pressure, sample.aux6,
+                sample.aux7, sample.aux8);
+            out << ", ";
         }
         out << "}}";
     }
-    void operator()(const DrawFrame&) const { out << "DrawFrame{}"; }
-    void operator()(const Tick&) const { out << "Tick{}"; }
-    void operator()(const MoveClockBy& step) const { out << "MoveClockBy{" << step.milliseconds << "u}"; }
     void operator()(const UseRecord& step) const
     {
         const Params& params = step.params;
-        out << "UseRecord{{.reserved0 = " << params.reserved0 << "u, .inkDecayTime = " << params.inkDecayTime
-            << "u, .inkColor = " << params.inkColor << "u, .minBrushSize = " << params.minBrushSize
-            << "u, .brushSize = " << params.brushSize << "u, .maxPressure = " << params.maxPressure
-            << "u, .line = " << +params.line << ", .outline = " << +params.outline
-            << ", .cursor = " << +params.cursor << ", .usePressure = " << +params.usePressure
-            << ", .useOffset = " << +params.useOffset << ", .zebraMode = " << +params.zebraMode
-            << ", .colorPicker = " << +params.colorPicker << ", .reserved31 = " << +params.reserved31 << "}}";
+        out << "UseRecord{";
+        Put("", params.reserved0, params.inkDecayTime, params.inkColor, params.minBrushSize, params.brushSize,
+            params.maxPressure, +params.line, +params.outline, +params.cursor, +params.usePressure,
+            +params.useOffset, +params.zebraMode, +params.colorPicker, +params.reserved31);
+        out << "}";
     }
-    void operator()(const UseScale& step) const
+    void operator()(const DrawFrame&) const { Put("DrawFrame"); }
+    void operator()(const Tick&) const { Put("Tick"); }
+    void operator()(const ClearLive&) const { Put("ClearLive"); }
+    void operator()(const MoveClockBy& step) const { Put("MoveClockBy", step.milliseconds); }
+    void operator()(const UseScale& step) const { Put("UseScale", step.factor); }
+    void operator()(const UseVectorOutline& step) const { Put("UseVectorOutline", step.on); }
+    void operator()(const UseScreen& step) const { Put("UseScreen", step.colour, step.pickingSetsTheRecord); }
+    void operator()(const UseLogLevel& step) const { Put("UseLogLevel", step.level); }
+    void operator()(const AskOptions& step) const { Put("AskOptions", step.mask); }
+
+private:
+    template <class... Fields> void Put(const char* name, Fields... fields) const
     {
-        out << "UseScale{" << std::setprecision(17) << step.factor << "}"; // INFINITY and NAN by hand
+        out << name << "{";
+        [[maybe_unused]] const char* separator = ""; // of steps without fields
+        ((out << separator << fields, separator = ", "), ...);
+        out << "}";
     }
-    void operator()(const UseVectorOutline& step) const { out << "UseVectorOutline{" << step.on << "}"; }
-    void operator()(const UseScreen& step) const
-    {
-        out << "UseScreen{" << step.colour << "u, " << step.pickingSetsTheRecord << "}";
-    }
-    void operator()(const UseLogLevel& step) const { out << "UseLogLevel{" << step.level << "u}"; }
-    void operator()(const AskOptions& step) const { out << "AskOptions{" << step.mask << "u}"; }
-    void operator()(const ClearLive&) const { out << "ClearLive{}"; }
 
     std::ostream& out;
 };
@@ -79,7 +84,6 @@ template <class Sequence, class Fails> Sequence Least(Sequence sequence, Fails f
 std::string Code(const Steps& steps)
 {
     std::ostringstream out;
-    out << std::boolalpha;
     for (const Step& step : steps) {
         out << "    ";
         std::visit(Printer{out}, step);
