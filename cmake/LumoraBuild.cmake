@@ -98,7 +98,7 @@ function(lumora_room name)
       -D "SOURCE=${PROJECT_SOURCE_DIR}" -P "${PROJECT_SOURCE_DIR}/cmake/RoomIncludes.cmake"
     COMMAND ${CMAKE_COMMAND} -E touch "${checked}"
     DEPENDS ${room_SOURCES} "${PROJECT_SOURCE_DIR}/cmake/RoomIncludes.cmake"
-    COMMENT "" VERBATIM)
+    COMMENT "Looking at the includes of room ${name}" VERBATIM)
   target_sources(${target} PRIVATE "${checked}")
 endfunction()
 

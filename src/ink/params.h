@@ -11,7 +11,6 @@ namespace zq::LM {
 
 using Params = ::LM_Params;
 
-static_assert(sizeof(Params) == 32);
 static_assert(offsetof(Params, reserved0) == 0);
 static_assert(offsetof(Params, inkDecayTime) == 4);
 static_assert(offsetof(Params, inkColor) == 8);

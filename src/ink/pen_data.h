@@ -9,7 +9,6 @@ namespace zq::LM {
 
 using PenData = ::LM_PenData;
 
-static_assert(sizeof(PenData) == 36);
 static_assert(offsetof(PenData, time) == 0);
 static_assert(offsetof(PenData, aux1) == 4);
 static_assert(offsetof(PenData, x) == 8);

@@ -1,10 +1,7 @@
 // The ink engine's sample store: pending and live samples, ageing and the report rate.
 #include "ink/drawing.h"
-#include "ink/time_warning.h"
 #include "log/debug_log.h"
 #include "platform/clock.h"
-
-#include <utility>
 
 namespace zq::LM {
 
@@ -18,53 +15,6 @@ std::int64_t Difference(std::uint32_t later, std::uint32_t earlier)
 bool IsResetMarker(const PenData& sample) { return sample.x == 0 || sample.y == 0 || sample.time == 0; }
 
 } // namespace
-
-void Drawing::SetCallbacks(ClearFunction clear, PresentFunction present, PickColorFunction pickColor,
-                           SignedLineFunction drawLine, SignedLineFunction eraseLine,
-                           DrawPenDataFunction drawPenData)
-{
-    clearCallback = std::move(clear);
-    presentCallback = std::move(present);
-    pickColorCallback = std::move(pickColor);
-    drawLineCallback = std::move(drawLine);
-    eraseLineCallback = std::move(eraseLine);
-    drawPenDataCallback = std::move(drawPenData);
-}
-
-void Drawing::SetDrawTextCallback(DrawTextFunction drawText) { drawTextCallback = std::move(drawText); }
-
-void Drawing::SetScale(double newScale)
-{
-    if (newScale > 0.0) {
-        scale = newScale;
-    }
-}
-
-void Drawing::SetVectorOutline(bool on) { vectorOutline = on; }
-
-void Drawing::SetParams(const Params* source)
-{
-    if (source == nullptr) {
-        return;
-    }
-    const std::lock_guard lock(paramsMutex);
-    params = *source;
-}
-
-void Drawing::GetCopiedParams(Params* out)
-{
-    if (out == nullptr) {
-        return;
-    }
-    const std::lock_guard lock(paramsMutex);
-    *out = params;
-}
-
-std::uint32_t Drawing::EnabledOptions(std::uint32_t mask)
-{
-    const std::lock_guard lock(paramsMutex);
-    return zq::LM::EnabledOptions(params, mask);
-}
 
 void Drawing::AddPenDataAry(const PenData* samples, std::size_t count) { AddPenDataAryCore_(samples, count); }
 
@@ -119,7 +69,7 @@ void Drawing::CalcPenReportRate_()
     if (count >= 2) {
         const std::int64_t span = Difference(liveSamples.back().time, liveSamples.front().time);
         if (span < 0) {
-            LogTimeWarning("CalcPenReportRate_", static_cast<int>(span)); // this line prints 32 bits
+            LogTimeWarning_("CalcPenReportRate_", static_cast<int>(span)); // this line prints 32 bits
         }
         // A little high, as n samples are only n - 1 intervals apart; it shows with the first few alone.
         rate = span > 0 ? count * MillisecondsPerSecond / static_cast<std::uint64_t>(span) : 0;
@@ -143,7 +93,7 @@ void Drawing::DeleteOldPenDataCore_()
     for (; firstYoung != liveSamples.end(); ++firstYoung) {
         const std::int64_t age = Difference(now, firstYoung->time);
         if (age < 0) {
-            LogTimeWarning("DeleteOldPenDataCore_", age);
+            LogTimeWarning_("DeleteOldPenDataCore_", age);
         }
         if (age < life) {
             break;

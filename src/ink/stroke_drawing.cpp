@@ -1,7 +1,6 @@
 // The ink engine's frame: outline, main and hollow strokes, the hover cross-hair and the colour picker's
 // swatch.
 #include "ink/drawing.h"
-#include "ink/time_warning.h"
 #include "ink/truncation.h"
 #include "platform/clock.h"
 
@@ -95,7 +94,7 @@ void Drawing::DrawLumoraLinesBody_Main_()
         const PenData& newer = liveSamples[i + 1];
         const std::int64_t age = Age(now, older);
         if (age < 0) {
-            LogTimeWarning("DrawLumoraLinesBody_Main_", age);
+            LogTimeWarning_("DrawLumoraLinesBody_Main_", age);
         }
         if (age >= life || !IsStroke(older, newer)) {
             continue;
@@ -118,7 +117,7 @@ void Drawing::DrawLumoraLinesBody_Outline_()
         // A segment drawn faster than ink lives has its border for as long as both samples are there.
         const std::int64_t gap = Gap(older, newer);
         if (gap < 0) {
-            LogTimeWarning("DrawLumoraLinesBody_Outline_", gap);
+            LogTimeWarning_("DrawLumoraLinesBody_Outline_", gap);
         }
         if (gap >= life || !IsStroke(older, newer)) {
             continue;

@@ -15,7 +15,6 @@ namespace zq::LM::test {
 inline constexpr std::uint32_t Start = 100'000; // the clock when a test begins
 inline constexpr std::uint32_t Ink = 0x00202020;
 inline constexpr std::uint32_t White = 0x00FFFFFF;
-inline constexpr std::uint32_t Black = 0x00000000;
 inline constexpr std::int32_t Touching = 0x7FFF; // full pressure of the default record
 inline constexpr std::int32_t Hovering = 0;
 inline constexpr std::uint32_t Forever = 0xFFFFFFFF; // an ink life
