@@ -7,7 +7,7 @@
 #include "support/log_level.h"
 #include "support/recorded_log.h"
 #include "support/recording_back_ends.h"
-#include "support/screen.h"
+#include "support/screen/screen.h"
 #include "support/system_stand_ins.h"
 
 #include <gmock/gmock.h>

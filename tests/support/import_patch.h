@@ -1,10 +1,9 @@
-// Rewrites entries of a loaded module's import table, so that a test can stand in for the system behind the
-// unmodified library: its clock, its debugger, its shell window, or a call that fails.
+// Leads an entry of a loaded module's import table elsewhere.
 #pragma once
 
-#include "support/import_entry.h"
+#include "support/hook/import_table.h"
 
-#include <windows.h>
+#include <gtest/gtest.h>
 
 namespace zq::LM::test {
 
@@ -12,8 +11,22 @@ namespace zq::LM::test {
 // such import.
 class ImportPatch {
 public:
-    ImportPatch(HMODULE module, const char* dll, const char* function, void* replacement);
-    ~ImportPatch();
+    ImportPatch(HMODULE module, const char*, const char* function, void* replacement)
+        : entry(FindImport(module, function))
+    {
+        if (entry == nullptr) {
+            ADD_FAILURE() << "the module does not import " << function;
+            return;
+        }
+        original = *entry;
+        WriteEntry(entry, replacement);
+    }
+    ~ImportPatch()
+    {
+        if (entry != nullptr) {
+            WriteEntry(entry, original);
+        }
+    }
     ImportPatch(const ImportPatch&) = delete;
     ImportPatch& operator=(const ImportPatch&) = delete;
 
