@@ -17,10 +17,6 @@ if(NOT CMAKE_MSVC_RUNTIME_LIBRARY)
 endif()
 set(CMAKE_POLICY_DEFAULT_CMP0091 NEW)
 
-if(LUMORA_DEBUG_SWITCH)
-  add_compile_definitions(LUMORA_DEBUG_SWITCH)
-endif()
-
 if(WIN32)
   enable_language(RC)
   # Windows 10 is the oldest system; the explicit returns give methods that return structures the right ABI in GCC.
@@ -62,11 +58,57 @@ function(lumora_own_code target)
   endif()
 endfunction()
 
-# One folder under src/ is one library; its dependencies are the only rooms it may include from.
+# A room: a library of files of src/ that include each other and the headers of the rooms that they NEED, and nothing
+# else; the build fails where one does. A PORTABLE room keeps to the standard library, one of OBJECTS is linked whole. A
+# folder may hold more than one.
 function(lumora_room name)
-  cmake_parse_arguments(room "" "" "SOURCES;NEEDS" ${ARGN})
-  add_library(lumora_${name} STATIC ${room_SOURCES})
-  target_include_directories(lumora_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
-  target_link_libraries(lumora_${name} PUBLIC ${room_NEEDS})
-  lumora_own_code(lumora_${name})
+  cmake_parse_arguments(room "OBJECTS;PORTABLE" "" "SOURCES;NEEDS" ${ARGN})
+  set(target lumora_${name})
+  if(room_SOURCES MATCHES "\\.cpp")
+    set(scope PUBLIC)
+    if(room_OBJECTS)
+      add_library(${target} OBJECT ${room_SOURCES})
+    else()
+      add_library(${target} STATIC ${room_SOURCES})
+    endif()
+    lumora_own_code(${target})
+  else()
+    set(scope INTERFACE)
+    add_library(${target} INTERFACE ${room_SOURCES})
+  endif()
+  target_include_directories(${target} ${scope} "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
+  target_link_libraries(${target} ${scope} ${room_NEEDS})
+
+  file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}/src" "${CMAKE_CURRENT_SOURCE_DIR}")
+  list(TRANSFORM room_SOURCES PREPEND "${folder}/" OUTPUT_VARIABLE files)
+  set(visible ${files})
+  foreach(needed IN LISTS room_NEEDS)
+    if(TARGET ${needed})
+      get_target_property(seen ${needed} LUMORA_VISIBLE)
+      list(APPEND visible ${seen})
+    endif()
+  endforeach()
+  list(REMOVE_DUPLICATES visible)
+  set_target_properties(${target} PROPERTIES LUMORA_VISIBLE "${visible}")
+  set_property(GLOBAL APPEND PROPERTY LUMORA_FILES ${files})
+
+  set(checked "${CMAKE_CURRENT_BINARY_DIR}/${name}-includes")
+  add_custom_command(OUTPUT "${checked}"
+    COMMAND ${CMAKE_COMMAND} -D "FILES=${files}" -D "VISIBLE=${visible}" -D PORTABLE=${room_PORTABLE}
+      -D "SOURCE=${PROJECT_SOURCE_DIR}" -P "${PROJECT_SOURCE_DIR}/cmake/RoomIncludes.cmake"
+    COMMAND ${CMAKE_COMMAND} -E touch "${checked}"
+    DEPENDS ${room_SOURCES} "${PROJECT_SOURCE_DIR}/cmake/RoomIncludes.cmake"
+    COMMENT "" VERBATIM)
+  target_sources(${target} PRIVATE "${checked}")
+endfunction()
+
+# After the last room: a file in none of them would be seen by nobody and judged by nobody.
+function(lumora_all_in_rooms)
+  get_property(known GLOBAL PROPERTY LUMORA_FILES)
+  file(GLOB_RECURSE present RELATIVE "${PROJECT_SOURCE_DIR}/src" CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/src/*.h" "${PROJECT_SOURCE_DIR}/src/*.cpp")
+  list(REMOVE_ITEM present ${known})
+  if(present)
+    message(FATAL_ERROR "in no room: ${present}")
+  endif()
 endfunction()

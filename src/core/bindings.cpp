@@ -2,11 +2,11 @@
 #include "core/bindings.h"
 
 #include "core/core.h"
-#include "log/debug_log.h"
 #include "platform/win32/gdi_owners.h"
 #include "render/drawing_lib.h"
 #include "render/key_fill.h"
 #include "render/line_rules.h"
+#include "render/text_conversion.h"
 
 namespace zq::LM {
 
@@ -17,17 +17,17 @@ bool g_coreLives = false; // told by the Core itself
 
 Core* LivingCore() { return g_coreLives ? g_core : nullptr; }
 
-// Without a window nobody would see the frame.
-DrawingLib* WindowedBackEnd()
+// The Core whose own window this is; null for a window that has lost it.
+Core* OwnerOf(HWND window, UINT message)
 {
     Core* core = LivingCore();
-    return core != nullptr && core->Window() != nullptr ? core->ActiveBackEnd() : nullptr;
+    return core != nullptr && core->Overlay().Owns(window, message) ? core : nullptr;
 }
 
 DrawingLib* ActiveBackEnd()
 {
     Core* core = LivingCore();
-    return core != nullptr ? core->ActiveBackEnd() : nullptr;
+    return core != nullptr ? core->TheCanvas().ActiveBackEnd() : nullptr;
 }
 
 // Windows stay behind when the back-end changes, and when an instance ends on another thread. One whose Core
@@ -55,13 +55,13 @@ LRESULT ServeLeftWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 } // namespace
 
-void SetWindowCore(Core* core)
+void ReachCore(Core* core)
 {
     g_core = core;
     g_coreLives = true;
 }
 
-void ForgetWindowCore(const Core* core)
+void ForgetCore(const Core* core)
 {
     if (g_core == core) {
         g_coreLives = false;
@@ -73,39 +73,43 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     if (g_core == nullptr) {
         return 0;
     }
-    Core* core = LivingCore();
-    if (core == nullptr || !core->Owns(window, message)) {
+    Core* core = OwnerOf(window, message);
+    if (core == nullptr) {
         return ServeLeftWindow(window, message, wParam, lParam);
     }
     const Hold hold(*core);
     try {
-        return core->Dispatch(window, message, wParam, lParam);
+        return core->Overlay().Dispatch(window, message, wParam, lParam);
     } catch (...) {
         return 0; // the system's dispatch cannot carry an exception; the frame is lost, the overlay goes on
     }
 }
 
+void BindCallbacks(Drawing& engine)
+{
+    engine.SetCallbacks(ClearCallback, PresentCallback, PickScreenColorCallback, DrawLineCallback,
+                        EraseLineCallback, DrawPenDataCallback);
+    engine.SetDrawTextCallback(DrawTextCallback);
+}
+
 void ClearCallback()
 {
-    if (DrawingLib* backEnd = WindowedBackEnd()) {
-        backEnd->Clear();
+    if (Core* core = LivingCore()) {
+        core->TheCanvas().BeginFrame();
     }
 }
 
 void PresentCallback()
 {
-    if (DrawingLib* backEnd = WindowedBackEnd()) {
-        if (GetDebugLevel() != NONE) {
-            LivingCore()->DrawInformation(*backEnd);
-        }
-        backEnd->Present();
+    if (Core* core = LivingCore()) {
+        core->TheCanvas().EndFrame();
     }
 }
 
 unsigned PickScreenColorCallback(bool clearFlag)
 {
     Core* core = LivingCore();
-    return core != nullptr ? core->PickScreenColour(clearFlag) : 0;
+    return core != nullptr ? core->Ink().Pick(clearFlag) : 0;
 }
 
 void DrawLineCallback(int x1, int y1, unsigned w1, unsigned c1, int x2, int y2, unsigned w2, unsigned c2)
@@ -135,8 +139,13 @@ void DrawPenDataCallback(std::vector<PenData>* samples, unsigned width, unsigned
 
 void DrawTextCallback(int x, int y, unsigned, unsigned colour, const char* text)
 {
-    if (Core* core = LivingCore()) {
-        core->DrawText(x, y, colour, text);
+    Core* core = LivingCore();
+    if (core == nullptr) {
+        return;
+    }
+    const Canvas& canvas = core->TheCanvas();
+    if (DrawingLib* backEnd = canvas.ActiveBackEnd()) {
+        DrawNarrowText(*backEnd, canvas.Scale(), x, y, colour, text);
     }
 }
 

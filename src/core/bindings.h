@@ -9,17 +9,22 @@
 namespace zq::LM {
 
 class Core;
+class Drawing;
 
 // The Core whose window is about to be created becomes the one that is reached; its end is told too, so that
 // nothing reaches it afterwards.
-void SetWindowCore(Core* core);
-void ForgetWindowCore(const Core* core);
+void ReachCore(Core* core);
+void ForgetCore(const Core* core);
 
 // Serves the window of the reached Core. No exception leaves it. A window that has lost its Core stays
 // cleared.
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// The ink engine's callbacks, each to the active back-end. Without a Core they do nothing.
+// Gives the engine its callbacks, which are the seven below.
+void BindCallbacks(Drawing& engine);
+
+// Each goes to the active back-end of the reached Core, whoever's engine calls. Without a Core they do
+// nothing.
 void ClearCallback();
 void PresentCallback();
 unsigned PickScreenColorCallback(bool clearFlag);

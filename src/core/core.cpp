@@ -1,173 +1,93 @@
-// The Core: creation, destruction, pen input and parameters.
+// The one instance: creation and end, pen input, paint, tick and command.
 #include "core/core.h"
 
 #include "core/bindings.h"
-#include "core/make_or_null.h"
 #include "log/debug_log.h"
-#include "render/d2d.h"
-#include "render/direct_composition.h"
-#include "render/gdi.h"
 #include "render/key_fill.h"
-#include "render/rendering_type.h"
-#include "render/screen_colour.h"
-#include "render/text_conversion.h"
-#include "settings/brush_data.h"
+#include "resources/resource_ids.h"
+#include "ui/menu_commands.h"
 
+#include <cstdint>
 #include <cstdio>
 
 namespace zq::LM {
 
 namespace {
 
-std::uint8_t g_previousColorPicker = 0; // the picking flag as the pen input before saw it; outlives instances
+std::int64_t g_previousLiveCount = 0; // as the tick before read it; outlives instances
+
+FileVersion ReadAndTellVersion(HMODULE module)
+{
+    const FileVersion version = ReadFileVersion(module);
+    const int length = std::snprintf(g_logBuffer, LogBufferSize, "LumoraDLL.dll (%d, %d, %d, %d)",
+                                     version.major, version.minor, version.build, version.revision);
+    if (length >= 0) {
+        LogA(BASIC, g_logBuffer);
+    }
+    return version;
+}
+
+std::vector<PenData> ReserveSamples()
+{
+    constexpr std::size_t ReservedSamples = 1'048'576;
+    std::vector<PenData> reserve;
+    reserve.reserve(ReservedSamples);
+    return reserve;
+}
 
 } // namespace
 
-Core::Core(HMODULE module, unsigned creationValue)
-    : creationValue(creationValue), module(module), window(*this)
+Core::Core(const Heritage& heritage, const Makers& makers)
+    : creationValue(heritage.creationValue), module(heritage.module), makers(makers),
+      fileVersion(ReadAndTellVersion(module)), overlay(*this), sampleReserve(ReserveSamples()),
+      canvas(*this, makers.backEnds)
 {
-    constexpr std::size_t ReservedSamples = 1'048'576;
-    ReadVersion_();
-    sampleReserve.reserve(ReservedSamples);
-    CreateDrawing_();
-    BindCallbacks_();
-    CreateBackEnds_();
-    tasktray.reset(MakeOrNull<sc::WinGui::Tasktray>().release());
-    CreateBrushDataServer_();
+    constexpr std::uint16_t Port = 44056;
+    if (Drawing* engine = ink.Engine()) {
+        engine->SetScale(canvas.Scale());
+        BindCallbacks(*engine);
+        engine->SetVectorOutline(g_renderingType == RenderingType::DirectComposition);
+    }
+    if (makers.useBrushDataServer) {
+        brushDataServer = makers.brushDataServer(Port);
+    }
+    ink.Replace(heritage.params);
 }
 
 // Everything is given back at once, also while calls of this Core still run; only its memory waits for them.
 // What a frame draws with waits for the frame.
 void Core::OnEnd()
 {
-    ForgetWindowCore(this);
-    if (drawingDepth == 0) {
-        GiveBack_();
-    } else {
+    ForgetCore(this);
+    if (canvas.IsInUse()) {
         GiveBackUserInterface_();
+    } else {
+        GiveBack_();
     }
 }
 
 Core::~Core()
 {
-    ForgetWindowCore(this);
+    ForgetCore(this);
     GiveBack_();
 }
 
 // What is drawn with and what is shown goes before the back-ends. The window itself is not destroyed here.
 void Core::GiveBack_()
 {
-    memorySurface.Release();
-    SetMemoryDCEverywhere_(nullptr);
-    drawing.reset();
-    params.reset();
+    canvas.ReleaseSurface();
+    ink.EndEngine();
     GiveBackUserInterface_();
     brushDataServer.reset();
-    for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {
-        backEnd.reset();
-    }
+    canvas.EndBackEnds();
 }
 
 void Core::GiveBackUserInterface_()
 {
-    paramsView.reset();
-    tasktray.reset();
-    trayMenu.Destroy();
-    window.UnregisterHotkey();
-    window.StopTimer();
-}
-
-void Core::ReadVersion_()
-{
-    fileVersion = ReadFileVersion(module);
-    const int length =
-        std::snprintf(g_logBuffer, LogBufferSize, "LumoraDLL.dll (%d, %d, %d, %d)", fileVersion.major,
-                      fileVersion.minor, fileVersion.build, fileVersion.revision);
-    if (length >= 0) {
-        LogA(BASIC, g_logBuffer);
-    }
-}
-
-void Core::CreateDrawing_()
-{
-    drawing = MakeOrNull<Drawing>();
-    params = MakeOrNull<Params>(DefaultParams);
-    if (drawing != nullptr) {
-        drawing->SetScale(renderScale);
-        drawing->GetCopiedParams(params.get());
-    }
-}
-
-void Core::BindCallbacks_()
-{
-    if (drawing == nullptr) {
-        return;
-    }
-    drawing->SetCallbacks(ClearCallback, PresentCallback, PickScreenColorCallback, DrawLineCallback,
-                          EraseLineCallback, DrawPenDataCallback);
-    drawing->SetDrawTextCallback(DrawTextCallback);
-    drawing->SetVectorOutline(g_renderingType == RenderingType::DirectComposition);
-}
-
-// In the order of RenderingType.
-void Core::CreateBackEnds_()
-{
-    backEnds.push_back(MakeOrNull<DirectComposition>());
-    backEnds.push_back(MakeOrNull<D2D>());
-    backEnds.push_back(MakeOrNull<GDI>());
-}
-
-void Core::CreateBrushDataServer_()
-{
-    constexpr std::uint16_t Port = 44056;
-    if (useBrushDataServer) {
-        brushDataServer = MakeOrNull<BrushDataServer>(Port);
-    }
-}
-
-void Core::SetParams(const Params& source)
-{
-    if (params == nullptr) {
-        return;
-    }
-    const Hold hold(*this);
-    *params = source;
-    PassParams_();
-    RefreshView_();
-}
-
-void Core::GetEngineParams(Params* out)
-{
-    if (drawing != nullptr) {
-        drawing->GetCopiedParams(out);
-    }
-}
-
-void Core::SetBrushData(std::uint8_t* message)
-{
-    if (params == nullptr) {
-        return;
-    }
-    const Hold hold(*this);
-    if (message != nullptr) {
-        DecodeBrushData(*params, message); // of whatever kind: what follows is the same
-    }
-    PassParams_();
-    RefreshView_();
-}
-
-// The same for what has come over the network, which is not trusted.
-void Core::TakeReceivedBrushData_()
-{
-    if (brushDataServer == nullptr || params == nullptr) {
-        return;
-    }
-    const std::vector<std::uint8_t> received = brushDataServer->TakeReceivedBytes();
-    if (!received.empty()) {
-        DecodeReceivedBrushData(*params, received); // of whatever kind
-        PassParams_();
-        RefreshView_();
-    }
+    ink.EndView();
+    tray.End();
+    overlay.UnregisterHotkey();
+    overlay.StopTimer();
 }
 
 void Core::InputPenData(const PenData* samples, std::size_t count)
@@ -176,79 +96,96 @@ void Core::InputPenData(const PenData* samples, std::size_t count)
         return;
     }
     const Hold hold(*this);
-    PassParams_();
+    ink.PassToEngine();
     if (count != 0) {
-        if (drawing != nullptr) {
-            const DrawingScope scope(*this);
-            drawing->AddPenDataAry(samples, count);
+        if (Drawing* engine = ink.Engine()) {
+            const Canvas::Use use(canvas);
+            engine->AddPenDataAry(samples, count);
         }
         lastPenData = samples[count - 1];
     }
-    ShowPickedColourOnce_();
+    ink.ShowPickedColour();
     if (Lives()) {
-        window.Invalidate();
+        overlay.Invalidate();
     }
 }
 
-// Picking a colour ends inside a frame; the record's view hears of it with the next input.
-void Core::ShowPickedColourOnce_()
-{
-    if (params == nullptr) {
-        return;
-    }
-    if (g_previousColorPicker == 1 && params->colorPicker == 0) {
-        RefreshView_();
-        if (!Lives()) {
-            return; // the flag is the next instance's by now
-        }
-    }
-    g_previousColorPicker = params->colorPicker;
-}
-
-void Core::ClearForRebuild()
+Heritage Core::Bequeath()
 {
     ClearWindowToKey(Window());
     renderingTypeChanged = false;
-    PassParams_();
-}
-
-DrawingLib* Core::ActiveBackEnd()
-{
-    const auto index = static_cast<std::size_t>(GetRenderingType());
-    return index < backEnds.size() ? backEnds[index].get() : nullptr;
-}
-
-unsigned Core::PickScreenColour(bool clearFlag)
-{
-    const unsigned colour = ColourUnderCursor();
-    if (params != nullptr) {
-        if (clearFlag) {
-            params->colorPicker = 0;
-        }
-        params->inkColor = colour;
-        PassParams_();
+    ink.PassToEngine();
+    Heritage heritage{.module = module, .creationValue = creationValue};
+    if (Drawing* engine = ink.Engine()) {
+        engine->GetCopiedParams(&heritage.params);
     }
-    return colour;
+    return heritage;
 }
 
-void Core::DrawText(int x, int y, unsigned colour, const char* text)
+void Core::OnPaint()
 {
-    if (DrawingLib* backEnd = ActiveBackEnd()) {
-        DrawNarrowText(*backEnd, renderScale, x, y, colour, text);
+    FollowScreen_();
+    if (Window() != nullptr) {
+        canvas.Paint();
     }
 }
 
-void Core::PassParams_()
+void Core::DrawFrame()
 {
-    if (drawing != nullptr) {
-        drawing->SetParams(params.get());
+    const Canvas::Use use(canvas);
+    if (Drawing* engine = ink.Engine()) {
+        engine->DrawLumoraLines();
+        return;
+    }
+    // Without an engine the frame is empty, not undrawn: what is shown of the bitmap must be transparent.
+    canvas.BeginFrame();
+    canvas.EndFrame();
+}
+
+// Each input brings a paint along. Only when the last ink has aged there is none to wait for.
+void Core::OnTick()
+{
+    if (IsRectEmpty(&Screen()) != 0) {
+        FollowScreen_(); // a window of no size is never painted, so no paint would find that it has one again
+    }
+    if (brushDataServer != nullptr) {
+        ink.ApplyReceived(brushDataServer->TakeReceivedBytes());
+    }
+    Drawing* engine = ink.Engine();
+    if (engine == nullptr || !Lives()) {
+        return;
+    }
+    const Canvas::Use use(canvas);
+    engine->DeleteOldPenData();
+    const std::int64_t liveCount = engine->LivePointsNum();
+    if (liveCount == 0 && g_previousLiveCount != 0) {
+        engine->ClearLivePenData();
+        overlay.Invalidate();
+    }
+    g_previousLiveCount = liveCount;
+}
+
+void Core::OnCommand(unsigned id)
+{
+    RunCommand_(id);
+    if (Lives()) {
+        overlay.Invalidate();
+        tray.Mark(GetDebugLevel(), g_renderingType);
     }
 }
 
-void Core::RefreshView_()
+void Core::RunCommand_(unsigned id)
 {
-    if (paramsView != nullptr) {
-        paramsView->Refresh();
+    if (const std::optional<std::uint32_t> level = LogLevelOfCommand(id)) {
+        SetDebugLevel(*level); // the user-interface switch stays as it is
+    } else if (const std::optional<RenderingType> type = RenderingTypeOfCommand(id)) {
+        // Never back to false: choosing the old type again still rebuilds.
+        renderingTypeChanged = renderingTypeChanged || g_renderingType != *type;
+        ChooseRenderingType(*type);
+    } else if (id == CommandSettings) {
+        ink.OpenView();
+    } else if (id == CommandSaveFrameRates) {
+        AskForRateFile(Window());
     }
 }
 

@@ -1,7 +1,7 @@
 // The Core's side of the information overlay: gathers what it tells.
 #include "core/core.h"
-#include "platform/build_options.h"
 #include "platform/clock.h"
+#include "platform/debug_switch.h"
 #include "render/rendering_type.h"
 #include "render/shell_window.h"
 #include "ui/information_overlay.h"
@@ -26,19 +26,18 @@ std::uint32_t MeasureDrawingRate()
 
 void Core::DrawInformation(DrawingLib& backEnd)
 {
-    const RECT& screen = window.Screen();
     InformationFacts facts;
-    facts.screenWidth = screen.right - screen.left;
+    facts.screenWidth = Screen().right - Screen().left;
     facts.drawingRate = MeasureDrawingRate();
-    facts.penRate = drawing != nullptr ? drawing->PenReoprtRate() : 0;
+    facts.penRate = ink.Engine() != nullptr ? ink.Engine()->PenReoprtRate() : 0;
     facts.version = {fileVersion.major, fileVersion.minor, fileVersion.build, fileVersion.revision};
     facts.renderingType = g_renderingType;
-    facts.shell = ShellWindowRect().value_or(screen);
+    facts.shell = ShellWindowRect().value_or(Screen());
     facts.lastPenData = lastPenData;
     facts.port = brushDataServer != nullptr ? brushDataServer->Port() : 0;
-    facts.textColour = params != nullptr ? params->reserved0 : 0;
+    facts.textColour = ink.Get() != nullptr ? ink.Get()->reserved0 : 0;
     facts.debugSwitch = DebugSwitch;
-    InformationOverlay(backEnd, renderScale, facts).Draw();
+    DrawInformationOverlay(backEnd, canvas.Scale(), facts);
 }
 
 } // namespace zq::LM

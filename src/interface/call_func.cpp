@@ -3,8 +3,8 @@
 
 #include "interface/instance.h"
 #include "log/debug_log.h"
-#include "platform/build_options.h"
-#include "ui/user_interface_switch.h"
+#include "platform/debug_switch.h"
+#include "ui/tray.h"
 
 #include <cwchar>
 #include <iterator>
@@ -39,7 +39,9 @@ void GetCopiedParams(LM_Params* params)
         LM::Log(LM::BASIC, g_sizeLine);
     }
     if (LM::Core* core = LM::CurrentCore()) {
-        core->GetEngineParams(params);
+        if (LM::Drawing* engine = core->Ink().Engine()) {
+            engine->GetCopiedParams(params);
+        }
     }
 }
 
@@ -72,7 +74,8 @@ void SetData_from_App(void* message, std::uint64_t)
 {
     LM::Log(LM::BASIC, L"zq::CallFunc::SetData_from_App\n");
     if (LM::Core* core = LM::CurrentCore()) {
-        core->SetBrushData(static_cast<std::uint8_t*>(message));
+        const LM::Hold hold(*core);
+        core->Ink().Apply(static_cast<std::uint8_t*>(message));
     }
 }
 
@@ -80,7 +83,7 @@ void SetDebugLevel(std::uint32_t level)
 {
     LM::Log(LM::BASIC, L"zq::CallFunc::SetDebugLevel\n");
     LM::SetDebugLevel(level);
-    if constexpr (!LM::DebugSwitch) {
+    if (!LM::DebugSwitch) {
         LM::g_userInterfaceSwitch = level != 0;
     }
     LM::Log(LM::BASIC, L"Debug level set\n");
@@ -90,7 +93,8 @@ void SetParams(const LM_Params* params)
 {
     LM::Log(LM::BASIC, L"zq::CallFunc::SetParams\n");
     if (LM::Core* core = LM::CurrentCore()) {
-        core->SetParams(*params);
+        const LM::Hold hold(*core);
+        core->Ink().Replace(*params);
     }
 }
 

@@ -25,10 +25,7 @@ private:
 };
 
 // Without memory for the Core itself the holder stays empty; what fails inside the Core passes to the host.
-Owned<Core> MakeCore(HMODULE module, unsigned creationValue)
-{
-    return Owned<Core>(new (std::nothrow) Core(module, creationValue));
-}
+Owned<Core> MakeCore(const Heritage& heritage) { return Owned<Core>(new (std::nothrow) Core(heritage)); }
 
 // A window that stays behind needs the window procedure for as long as the process lasts.
 void KeepLibraryLoaded()
@@ -57,23 +54,18 @@ void Rebuild()
     const LifeChange change;
     Owned<Core> old = std::move(g_coreHolder->core);
     KeepLibraryLoaded();
-    old->ClearForRebuild();
-    Params saved = DefaultParams;
-    old->GetEngineParams(&saved);
-    const HMODULE module = old->Module();
-    const unsigned creationValue = old->CreationValue();
+    const Heritage heritage = old->Bequeath();
     old.reset(); // before the new one: only one may hold the system's resources
     if (!change.IsLatest()) {
         return;
     }
-    Owned<Core> made = MakeCore(module, creationValue);
+    Owned<Core> made = MakeCore(heritage);
     if (made == nullptr || !change.IsLatest()) {
         return;
     }
     Core& core = *made;
     const Hold hold(core);
     g_coreHolder->core = std::move(made);
-    core.SetParams(saved);
     core.CreateOverlayWindow();
 }
 
@@ -89,14 +81,13 @@ HWND CurrentWindow()
 
 HWND CreateInstance()
 {
-    constexpr unsigned CreationValue = 0;
     const LifeChange change;
     EndInstance();
     if (!change.IsLatest()) {
         return CurrentWindow();
     }
     auto holder = std::make_unique<CoreHolder>();
-    holder->core = MakeCore(g_module, CreationValue);
+    holder->core = MakeCore({.module = g_module});
     if (!change.IsLatest()) {
         return CurrentWindow();
     }

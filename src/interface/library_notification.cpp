@@ -3,7 +3,7 @@
 
 #include "interface/instance.h"
 #include "log/debug_log.h"
-#include "platform/build_options.h"
+#include "platform/debug_switch.h"
 
 namespace zq::LM {
 
@@ -30,7 +30,7 @@ void HandleNotification(HMODULE module, DWORD reason)
         g_module = module;
         DisableThreadLibraryCalls(module);
         g_threadsAreSilent = true;
-        if constexpr (DebugSwitch) {
+        if (DebugSwitch) {
             SetDebugLevel(BASIC);
         }
         break;

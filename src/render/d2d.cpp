@@ -1,6 +1,8 @@
 // The Direct2D back-end.
 #include "render/d2d.h"
 
+#include "platform/dropped.h"
+#include "render/d2d_calls.h"
 #include "render/d2d_rules.h"
 #include "render/line_rules.h"
 #include "render/shell_window.h"
@@ -46,12 +48,12 @@ bool D2D::SetUp_()
 void D2D::CreateTextFormat_()
 {
     constexpr float Size = 16.0F;
-    DWriteCreateFactory(DWRITE_FACTORY_TYPE_SHARED, __uuidof(IDWriteFactory),
-                        reinterpret_cast<IUnknown**>(writeFactory.GetAddressOf()));
+    Dropped(DWriteCreateFactory(DWRITE_FACTORY_TYPE_SHARED, __uuidof(IDWriteFactory),
+                                reinterpret_cast<IUnknown**>(writeFactory.GetAddressOf())));
     if (writeFactory != nullptr) {
-        writeFactory->CreateTextFormat(L"Meiryo", nullptr, DWRITE_FONT_WEIGHT_NORMAL,
-                                       DWRITE_FONT_STYLE_OBLIQUE, DWRITE_FONT_STRETCH_NORMAL, Size, L"",
-                                       textFormat.GetAddressOf());
+        Dropped(writeFactory->CreateTextFormat(L"Meiryo", nullptr, DWRITE_FONT_WEIGHT_NORMAL,
+                                               DWRITE_FONT_STYLE_OBLIQUE, DWRITE_FONT_STRETCH_NORMAL, Size,
+                                               L"", textFormat.GetAddressOf()));
     }
 }
 
@@ -66,7 +68,7 @@ bool D2D::InitTransparentWindow(HWND newWindow, unsigned colorKey)
 
 bool D2D::Clear()
 {
-    if (renderTarget == nullptr) {
+    if (!IsReady_()) {
         return false;
     }
     constexpr D2D1_MATRIX_3X2_F Identity = {{{1.0F, 0.0F, 0.0F, 1.0F, 0.0F, 0.0F}}};
@@ -80,7 +82,7 @@ bool D2D::Clear()
 
 bool D2D::Present()
 {
-    if (renderTarget == nullptr) {
+    if (!IsReady_()) {
         return false;
     }
     const HRESULT result = renderTarget->EndDraw();
@@ -93,14 +95,12 @@ void D2D::DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, in
     if (!CanDraw_()) {
         return;
     }
-    const ComPtr<ID2D1SolidColorBrush> brush = NewBrush_(MeanColour(colour1, colour2));
+    const ComPtr<ID2D1SolidColorBrush> brush = NewBrush(*renderTarget.Get(), MeanColour(colour1, colour2));
     if (brush == nullptr) {
         return;
     }
-    // A failure is no reason to leave out the line: it has flat ends then.
-    const D2D1_STROKE_STYLE_PROPERTIES properties = RoundStroke();
     ComPtr<ID2D1StrokeStyle> style;
-    factory->CreateStrokeStyle(&properties, nullptr, 0, style.GetAddressOf());
+    Dropped(MakeRoundStroke(*factory.Get(), style.GetAddressOf())); // without it the line has flat ends
     renderTarget->DrawLine(D2DPoint(x1, y1), D2DPoint(x2, y2), brush.Get(), HalfWidthSum(width1, width2),
                            style.Get());
 }
@@ -111,36 +111,26 @@ void D2D::DrawText(const wchar_t* text, int x, int y, unsigned colour)
     if (!shell || !CanDraw_() || textFormat == nullptr) {
         return;
     }
-    const ComPtr<ID2D1SolidColorBrush> brush = NewBrush_(ShareColour(colour, 1.0F));
+    const ComPtr<ID2D1SolidColorBrush> brush = NewBrush(*renderTarget.Get(), ShareColour(colour, 1.0F));
     if (brush == nullptr) {
         return;
     }
     const D2D1_POINT_2F corner = D2DPoint(x, y);
     const D2D1_RECT_F layout = {corner.x, corner.y, static_cast<float>(shell->right),
                                 static_cast<float>(shell->bottom)};
-    renderTarget->DrawText(text, static_cast<UINT32>(lstrlenW(text)), textFormat.Get(), &layout, brush.Get(),
-                           D2D1_DRAW_TEXT_OPTIONS_NONE, DWRITE_MEASURING_MODE_NATURAL);
+    DrawTextIn(*renderTarget.Get(), text, *textFormat.Get(), layout, *brush.Get());
 }
 
 void D2D::SetMemoryDC(HDC newDC)
 {
     dc = newDC;
-    if (dc == nullptr || renderTarget == nullptr) {
+    if (dc == nullptr || !IsReady_()) {
         return;
     }
     const RECT shell = ShellWindowRect().value_or(ScreenWithoutShell);
     if (SUCCEEDED(renderTarget->BindDC(dc, &shell))) {
         isBound = true; // for good: a failed binding leaves the one before
     }
-}
-
-Microsoft::WRL::ComPtr<ID2D1SolidColorBrush> D2D::NewBrush_(const D2D1_COLOR_F& colour)
-{
-    ComPtr<ID2D1SolidColorBrush> made;
-    if (FAILED(renderTarget->CreateSolidColorBrush(&colour, nullptr, made.GetAddressOf()))) {
-        made.Reset();
-    }
-    return made;
 }
 
 } // namespace zq::LM

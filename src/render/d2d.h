@@ -1,5 +1,11 @@
 // The Direct2D back-end: hard-edged ink on the memory bitmap. A window with a colour key has no pixels that
 // are partly seen through, so there is nothing to soften an edge with.
+//
+//   smoothing       none
+//   alpha byte      ignored: everything is opaque, and erasing paints the key
+//   hollow strokes  really hollow; they come as segments
+//   rate bars       not drawn
+//   device loss     none: what is drawn on is a bitmap in memory
 #pragma once
 
 #include "render/d2d_headers.h"
@@ -23,18 +29,20 @@ public:
 
     bool InitTransparentWindow(HWND newWindow, unsigned colorKey) override;
 
-    // False where Direct2D could not be set up. A target that wants to be remade goes on as it is: what it
-    // draws on is a bitmap in memory, which no device takes along.
+    // False where Direct2D could not be set up. A target that wants to be remade goes on as it is.
     bool Clear() override;
     bool Present() override;
 
-    // Opaque whatever the alpha byte says: that is how erasing works here, by painting in the key. Ends of
-    // two colours meet in their mean.
+    // Ends of two colours meet in their mean.
     void DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, int y2, unsigned width2,
                   unsigned colour2) override;
 
+    void DrawPenData(std::vector<PenData>*, unsigned, unsigned) override {}
+
     // Lines break where the shell's desktop ends on the right, so without a shell there is no text.
     void DrawText(const wchar_t* text, int x, int y, unsigned colour) override;
+
+    void Resize(HWND) override {} // the bitmap follows the screen without help
 
     // The place of the shell's desktop becomes the part of the bitmap that is drawn on. Samples are positions
     // on the screen and every back-end draws them from the overlay's own corner; here they move by that
@@ -42,18 +50,15 @@ public:
     // the pen as with the other back-ends. Without a bitmap the last binding stays.
     void SetMemoryDC(HDC newDC) override;
 
-    // Strokes come as segments, the bitmap follows the screen without help, and rate bars are not drawn here.
-    void DrawPenData(std::vector<PenData>*, unsigned, unsigned) override {}
-    void Resize(HWND) override {}
     void FillRect(int, int, int, int, unsigned) override {}
 
 private:
     template <typename Interface> using ComPtr = Microsoft::WRL::ComPtr<Interface>;
 
     bool SetUp_();
-    bool CanDraw_() const { return renderTarget != nullptr && isBound; }
     void CreateTextFormat_();
-    ComPtr<ID2D1SolidColorBrush> NewBrush_(const D2D1_COLOR_F& colour); // null when it could not be made
+    bool IsReady_() const { return renderTarget != nullptr; }
+    bool CanDraw_() const { return IsReady_() && isBound; }
 
     HWND window = nullptr;
     HDC dc = nullptr; // the Core's

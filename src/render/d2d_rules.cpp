@@ -1,4 +1,4 @@
-// Colours and strokes as Direct2D takes them.
+// Colours as Direct2D takes them.
 #include "render/d2d_rules.h"
 
 namespace zq::LM {
@@ -28,19 +28,6 @@ D2D1_COLOR_F MeanColour(std::uint32_t colour1, std::uint32_t colour2)
 D2D1_COLOR_F CrossedKeyColour(std::uint32_t colorKey)
 {
     return {Share(colorKey >> 16), Share(colorKey >> 8), Share(colorKey), 0.5F};
-}
-
-D2D1_STROKE_STYLE_PROPERTIES RoundStroke()
-{
-    D2D1_STROKE_STYLE_PROPERTIES properties{};
-    properties.startCap = D2D1_CAP_STYLE_ROUND;
-    properties.endCap = D2D1_CAP_STYLE_ROUND;
-    properties.dashCap = D2D1_CAP_STYLE_FLAT;
-    properties.lineJoin = D2D1_LINE_JOIN_MITER;
-    properties.miterLimit = 10.0F;
-    properties.dashStyle = D2D1_DASH_STYLE_SOLID;
-    properties.dashOffset = 0.0F;
-    return properties;
 }
 
 } // namespace zq::LM

@@ -1,4 +1,4 @@
-// Colours and strokes as Direct2D takes them.
+// Colours and places as Direct2D takes them.
 #pragma once
 
 #include "render/d2d_headers.h"
@@ -19,8 +19,5 @@ D2D1_COLOR_F MeanColour(std::uint32_t colour1, std::uint32_t colour2);
 D2D1_COLOR_F CrossedKeyColour(std::uint32_t colorKey);
 
 inline D2D1_POINT_2F D2DPoint(int x, int y) { return {static_cast<float>(x), static_cast<float>(y)}; }
-
-// How strokes begin and end: round.
-D2D1_STROKE_STYLE_PROPERTIES RoundStroke();
 
 } // namespace zq::LM

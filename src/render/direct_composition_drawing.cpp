@@ -1,5 +1,7 @@
 // The device chain of the DirectComposition back-end: frames and what is drawn in them.
 #include "log/debug_log.h"
+#include "platform/dropped.h"
+#include "render/d2d_calls.h"
 #include "render/d2d_rules.h"
 #include "render/direct_composition_impl.h"
 #include "render/line_rules.h"
@@ -47,7 +49,7 @@ bool DirectCompositionImpl::Present()
     if (!IsReady_()) {
         return false;
     }
-    deviceContext->EndDraw(); // should it fail, the next frame draws all living ink again
+    Dropped(deviceContext->EndDraw()); // should it fail, the next frame draws all living ink again
     constexpr UINT NoWaiting = 0;
     if (swapChain->Present(NoWaiting, 0) != S_OK) {
         LogAtNormal(L"Exception is thrown!\n");
@@ -68,18 +70,6 @@ void DirectCompositionImpl::DrawLine(int x1, int y1, unsigned width1, unsigned c
     }
 }
 
-void DirectCompositionImpl::FillRect(int left, int top, int right, int bottom, unsigned colour)
-{
-    if (!IsReady_()) {
-        return;
-    }
-    if (ID2D1SolidColorBrush* fillBrush = CachedBrush_(colour)) {
-        const D2D1_RECT_F rectangle = {static_cast<float>(left), static_cast<float>(top),
-                                       static_cast<float>(right), static_cast<float>(bottom)};
-        deviceContext->FillRectangle(&rectangle, fillBrush);
-    }
-}
-
 void DirectCompositionImpl::DrawPenData(const std::vector<PenData>* samples, unsigned width, unsigned colour)
 {
     constexpr float HalfOpacity = 0.5F;
@@ -93,10 +83,11 @@ void DirectCompositionImpl::DrawPenData(const std::vector<PenData>* samples, uns
         return;
     }
     AddTouchingFigure(*sink.Get(), *samples);
-    sink->Close();
-    const ComPtr<ID2D1SolidColorBrush> pathBrush = NewBrush_(ShareColour(colour, HalfOpacity));
+    Dropped(sink->Close()); // a path that did not take its points shows nothing
+    const ComPtr<ID2D1SolidColorBrush> pathBrush =
+        NewBrush(*deviceContext.Get(), ShareColour(colour, HalfOpacity));
     ComPtr<ID2D1StrokeStyle> style;
-    CreateRoundStroke_(style.GetAddressOf());
+    Dropped(MakeRoundStroke(*d2dFactory.Get(), style.GetAddressOf())); // without it the stroke has flat ends
     if (pathBrush != nullptr) {
         deviceContext->DrawGeometry(path.Get(), pathBrush.Get(), static_cast<float>(width), style.Get());
     }
@@ -107,18 +98,28 @@ void DirectCompositionImpl::DrawText(const wchar_t* text, int x, int y, unsigned
     if (deviceContext == nullptr || textFormat == nullptr) {
         return;
     }
-    const ComPtr<ID2D1SolidColorBrush> textBrush = NewBrush_(ShareColour(colour, 1.0F));
+    const ComPtr<ID2D1SolidColorBrush> textBrush = NewBrush(*deviceContext.Get(), ShareColour(colour, 1.0F));
     if (textBrush == nullptr) {
         return;
     }
-    const int length = lstrlenW(text);
     const float size = textFormat->GetFontSize();
     const D2D1_POINT_2F corner = D2DPoint(x, y);
     // One line of square characters.
-    const D2D1_RECT_F layout = {corner.x, corner.y, corner.x + size * static_cast<float>(length),
+    const D2D1_RECT_F layout = {corner.x, corner.y, corner.x + size * static_cast<float>(lstrlenW(text)),
                                 corner.y + size};
-    deviceContext->DrawText(text, static_cast<UINT32>(length), textFormat.Get(), &layout, textBrush.Get(),
-                            D2D1_DRAW_TEXT_OPTIONS_NONE, DWRITE_MEASURING_MODE_NATURAL);
+    DrawTextIn(*deviceContext.Get(), text, *textFormat.Get(), layout, *textBrush.Get());
+}
+
+void DirectCompositionImpl::FillRect(int left, int top, int right, int bottom, unsigned colour)
+{
+    if (!IsReady_()) {
+        return;
+    }
+    if (ID2D1SolidColorBrush* fillBrush = CachedBrush_(colour)) {
+        const D2D1_RECT_F rectangle = {static_cast<float>(left), static_cast<float>(top),
+                                       static_cast<float>(right), static_cast<float>(bottom)};
+        deviceContext->FillRectangle(&rectangle, fillBrush);
+    }
 }
 
 ID2D1SolidColorBrush* DirectCompositionImpl::CachedBrush_(unsigned colour)
@@ -126,17 +127,9 @@ ID2D1SolidColorBrush* DirectCompositionImpl::CachedBrush_(unsigned colour)
     if (colour != brushColour || brush == nullptr) {
         brushColour = colour;
         brush.Reset();
-        brush = NewBrush_(ShareColourWithAlpha(colour));
+        brush = NewBrush(*deviceContext.Get(), ShareColourWithAlpha(colour));
     }
     return brush.Get();
-}
-
-DirectCompositionImpl::ComPtr<ID2D1SolidColorBrush>
-DirectCompositionImpl::NewBrush_(const D2D1_COLOR_F& colour)
-{
-    ComPtr<ID2D1SolidColorBrush> made;
-    deviceContext->CreateSolidColorBrush(&colour, nullptr, made.GetAddressOf());
-    return made;
 }
 
 } // namespace zq::LM

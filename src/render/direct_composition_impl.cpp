@@ -2,7 +2,7 @@
 #include "render/direct_composition_impl.h"
 
 #include "log/debug_log.h"
-#include "render/d2d_rules.h"
+#include "render/d2d_calls.h"
 #include "render/require.h"
 
 namespace zq::LM {
@@ -80,9 +80,8 @@ void DirectCompositionImpl::SetUp_()
     CreateTargetBitmap_();
     CreateVisualTree_();
     Require(DWriteCreateFactory(DWRITE_FACTORY_TYPE_SHARED, __uuidof(IDWriteFactory),
-                                reinterpret_cast<IUnknown**>(writeFactory.ReleaseAndGetAddressOf())),
-            "DWriteCreateFactory");
-    Require(CreateRoundStroke_(strokeStyle.ReleaseAndGetAddressOf()), "CreateStrokeStyle");
+                                reinterpret_cast<IUnknown**>(writeFactory.ReleaseAndGetAddressOf())));
+    Require(MakeRoundStroke(*d2dFactory.Get(), strokeStyle.ReleaseAndGetAddressOf()));
     CreateTextFormat_();
 }
 
@@ -90,16 +89,13 @@ void DirectCompositionImpl::CreateDevices_()
 {
     Require(D3D11CreateDevice(nullptr, D3D_DRIVER_TYPE_HARDWARE, nullptr, D3D11_CREATE_DEVICE_BGRA_SUPPORT,
                               nullptr, 0, D3D11_SDK_VERSION, d3dDevice.ReleaseAndGetAddressOf(), nullptr,
-                              nullptr),
-            "D3D11CreateDevice");
+                              nullptr));
     Require(d3dDevice->QueryInterface(__uuidof(IDXGIDevice),
-                                      reinterpret_cast<void**>(dxgiDevice.ReleaseAndGetAddressOf())),
-            "QueryInterface(IDXGIDevice)");
+                                      reinterpret_cast<void**>(dxgiDevice.ReleaseAndGetAddressOf())));
     Require(CreateDXGIFactory2(0, __uuidof(IDXGIFactory2),
-                               reinterpret_cast<void**>(dxgiFactory.ReleaseAndGetAddressOf())),
-            "CreateDXGIFactory2");
+                               reinterpret_cast<void**>(dxgiFactory.ReleaseAndGetAddressOf())));
     if (dxgiFactory == nullptr || dxgiDevice == nullptr) {
-        throw CallFailed("CreateDXGIFactory2", E_POINTER);
+        throw CallFailed();
     }
 }
 
@@ -108,8 +104,7 @@ void DirectCompositionImpl::CreateSwapChain_()
     GetClientRect(window, &clientRect);
     const DXGI_SWAP_CHAIN_DESC1 description = SwapChainDescription(clientRect);
     Require(dxgiFactory->CreateSwapChainForComposition(dxgiDevice.Get(), &description, nullptr,
-                                                       swapChain.ReleaseAndGetAddressOf()),
-            "CreateSwapChainForComposition");
+                                                       swapChain.ReleaseAndGetAddressOf()));
 }
 
 void DirectCompositionImpl::CreateDeviceContext_()
@@ -117,26 +112,22 @@ void DirectCompositionImpl::CreateDeviceContext_()
     brush.Reset(); // belongs to the context before
     const D2D1_FACTORY_OPTIONS options = {D2D1_DEBUG_LEVEL_NONE};
     Require(D2D1CreateFactory(D2D1_FACTORY_TYPE_SINGLE_THREADED, __uuidof(ID2D1Factory2), &options,
-                              reinterpret_cast<void**>(d2dFactory.ReleaseAndGetAddressOf())),
-            "D2D1CreateFactory");
-    Require(d2dFactory->CreateDevice(dxgiDevice.Get(), d2dDevice.ReleaseAndGetAddressOf()), "CreateDevice");
+                              reinterpret_cast<void**>(d2dFactory.ReleaseAndGetAddressOf())));
+    Require(d2dFactory->CreateDevice(dxgiDevice.Get(), d2dDevice.ReleaseAndGetAddressOf()));
     Require(d2dDevice->CreateDeviceContext(D2D1_DEVICE_CONTEXT_OPTIONS_NONE,
-                                           deviceContext.ReleaseAndGetAddressOf()),
-            "CreateDeviceContext");
+                                           deviceContext.ReleaseAndGetAddressOf()));
 }
 
 void DirectCompositionImpl::CreateTargetBitmap_()
 {
     ComPtr<IDXGISurface2> surface;
     Require(
-        swapChain->GetBuffer(0, __uuidof(IDXGISurface2), reinterpret_cast<void**>(surface.GetAddressOf())),
-        "GetBuffer");
+        swapChain->GetBuffer(0, __uuidof(IDXGISurface2), reinterpret_cast<void**>(surface.GetAddressOf())));
     D2D1_BITMAP_PROPERTIES1 properties{};
     properties.pixelFormat = {Format, D2D1_ALPHA_MODE_PREMULTIPLIED};
     properties.bitmapOptions = D2D1_BITMAP_OPTIONS_TARGET | D2D1_BITMAP_OPTIONS_CANNOT_DRAW;
     ComPtr<ID2D1Bitmap1> bitmap;
-    Require(deviceContext->CreateBitmapFromDxgiSurface(surface.Get(), &properties, bitmap.GetAddressOf()),
-            "CreateBitmapFromDxgiSurface");
+    Require(deviceContext->CreateBitmapFromDxgiSurface(surface.Get(), &properties, bitmap.GetAddressOf()));
     deviceContext->SetTarget(bitmap.Get());
 }
 
@@ -144,24 +135,20 @@ void DirectCompositionImpl::CreateVisualTree_()
 {
     compositionDevice.Reset();
     Require(DCompositionCreateDevice(dxgiDevice.Get(), __uuidof(IDCompositionDevice),
-                                     reinterpret_cast<void**>(compositionDevice.GetAddressOf())),
-            "DCompositionCreateDevice");
+                                     reinterpret_cast<void**>(compositionDevice.GetAddressOf())));
     // The newer kind of device takes the place of the older one, whose reference nobody has afterwards: each
     // set-up costs one device for the life of the process.
     Require(DCompositionCreateDevice3(dxgiDevice.Get(), __uuidof(IDCompositionDevice),
-                                      reinterpret_cast<void**>(compositionDevice.GetAddressOf())),
-            "DCompositionCreateDevice3");
+                                      reinterpret_cast<void**>(compositionDevice.GetAddressOf())));
     Require(compositionDevice->QueryInterface(
-                CompositionDevice3Id, reinterpret_cast<void**>(compositionDevice3.ReleaseAndGetAddressOf())),
-            "QueryInterface(IDCompositionDevice3)");
+        CompositionDevice3Id, reinterpret_cast<void**>(compositionDevice3.ReleaseAndGetAddressOf())));
     constexpr BOOL Topmost = TRUE;
     Require(
-        compositionDevice->CreateTargetForHwnd(window, Topmost, compositionTarget.ReleaseAndGetAddressOf()),
-        "CreateTargetForHwnd");
-    Require(compositionDevice->CreateVisual(visual.ReleaseAndGetAddressOf()), "CreateVisual");
-    Require(visual->SetContent(swapChain.Get()), "SetContent");
-    Require(compositionTarget->SetRoot(visual.Get()), "SetRoot");
-    Require(compositionDevice->Commit(), "Commit");
+        compositionDevice->CreateTargetForHwnd(window, Topmost, compositionTarget.ReleaseAndGetAddressOf()));
+    Require(compositionDevice->CreateVisual(visual.ReleaseAndGetAddressOf()));
+    Require(visual->SetContent(swapChain.Get()));
+    Require(compositionTarget->SetRoot(visual.Get()));
+    Require(compositionDevice->Commit());
 }
 
 void DirectCompositionImpl::CreateTextFormat_()
@@ -169,14 +156,7 @@ void DirectCompositionImpl::CreateTextFormat_()
     constexpr float Size = 24.0F;
     Require(writeFactory->CreateTextFormat(L"Gabriola", nullptr, DWRITE_FONT_WEIGHT_NORMAL,
                                            DWRITE_FONT_STYLE_NORMAL, DWRITE_FONT_STRETCH_NORMAL, Size,
-                                           L"en-us", textFormat.ReleaseAndGetAddressOf()),
-            "CreateTextFormat");
-}
-
-HRESULT DirectCompositionImpl::CreateRoundStroke_(ID2D1StrokeStyle** style)
-{
-    const D2D1_STROKE_STYLE_PROPERTIES properties = RoundStroke();
-    return static_cast<ID2D1Factory*>(d2dFactory.Get())->CreateStrokeStyle(&properties, nullptr, 0, style);
+                                           L"en-us", textFormat.ReleaseAndGetAddressOf()));
 }
 
 void DirectCompositionImpl::Resize()

@@ -50,8 +50,6 @@ private:
 
     bool IsReady_() const { return deviceContext != nullptr && swapChain != nullptr; }
     ID2D1SolidColorBrush* CachedBrush_(unsigned colour); // null when it could not be made
-    ComPtr<ID2D1SolidColorBrush> NewBrush_(const D2D1_COLOR_F& colour);
-    HRESULT CreateRoundStroke_(ID2D1StrokeStyle** style);
 
     HWND window = nullptr;
     ComPtr<ID3D11Device> d3dDevice;

@@ -2,6 +2,7 @@
 #include "render/gdi.h"
 
 #include "log/debug_log.h"
+#include "platform/dropped.h"
 #include "platform/win32/gdiplus_flat.h"
 #include "render/gdi_lines.h"
 #include "render/key_fill.h"
@@ -13,7 +14,8 @@ GDI::GDI()
 {
     LogAtNormal(L"zq::LM::GDI::GDI(Constructor)\n");
     startupInput = std::make_unique<Gdiplus::GdiplusStartupInput>();
-    Gdiplus::GdiplusStartup(&gdiplusToken, startupInput.get(), nullptr); // without GDI+ lines draw nothing
+    Dropped(
+        Gdiplus::GdiplusStartup(&gdiplusToken, startupInput.get(), nullptr)); // without it lines draw nothing
 }
 
 GDI::~GDI()
@@ -36,7 +38,7 @@ bool GDI::InitTransparentWindow(HWND newWindow, unsigned colorKey)
 
 bool GDI::Clear()
 {
-    if (dc == nullptr) {
+    if (!IsReady_()) {
         return false;
     }
     // As large as the window, which at the one scale there is, 1, is as large as the bitmap.

@@ -1,4 +1,10 @@
 // The GDI back-end: asks for no graphics device at all, and lets what lies below the ink shine through it.
+//
+//   smoothing       none
+//   alpha byte      honoured, below the window's own opacity of three quarters; erasing draws nothing
+//   hollow strokes  not hollow, since no part of a stroke can be erased; they come as segments
+//   rate bars       not drawn
+//   device loss     none
 #pragma once
 
 #include "render/drawing_lib.h"
@@ -26,21 +32,20 @@ public:
     bool Clear() override;
     bool Present() override;
 
-    // Alpha 0 leaves the bitmap as it was: no part of a stroke can be erased here.
     void DrawLine(int x1, int y1, unsigned width1, unsigned colour1, int x2, int y2, unsigned width2,
                   unsigned colour2) override;
+    void DrawPenData(std::vector<PenData>*, unsigned, unsigned) override {}
 
     // In the system's font. A grey shadow keeps it readable whatever lies below.
     void DrawText(const wchar_t* text, int x, int y, unsigned colour) override;
 
+    void Resize(HWND) override {} // the bitmap follows the screen without help
     void SetMemoryDC(HDC newDC) override;
-
-    // Strokes come as segments, the bitmap follows the screen without help, and rate bars are not drawn here.
-    void DrawPenData(std::vector<PenData>*, unsigned, unsigned) override {}
-    void Resize(HWND) override {}
     void FillRect(int, int, int, int, unsigned) override {}
 
 private:
+    bool IsReady_() const { return dc != nullptr; }
+
     HWND window = nullptr;
     HDC dc = nullptr; // the Core's
     std::uint32_t keyColour = 0;

@@ -1,6 +1,7 @@
 // The two ways in which the GDI back-end can draw a line.
 #include "render/gdi_lines.h"
 
+#include "platform/dropped.h"
 #include "platform/win32/gdi_owners.h"
 #include "platform/win32/gdiplus_flat.h"
 #include "render/line_rules.h"
@@ -18,8 +19,8 @@ constexpr float WidestPen = 100'000.0F;
 // ones do nothing, up to the deletion of what was not made.
 class Graphics {
 public:
-    explicit Graphics(HDC dc) { flat::GdipCreateFromHDC(dc, &graphics); }
-    ~Graphics() { flat::GdipDeleteGraphics(graphics); }
+    explicit Graphics(HDC dc) { Dropped(flat::GdipCreateFromHDC(dc, &graphics)); }
+    ~Graphics() { Dropped(flat::GdipDeleteGraphics(graphics)); }
     Graphics(const Graphics&) = delete;
     Graphics& operator=(const Graphics&) = delete;
 
@@ -33,11 +34,11 @@ class RoundPen {
 public:
     RoundPen(std::uint32_t argb, float width)
     {
-        flat::GdipCreatePen1(argb, width, Gdiplus::UnitWorld, &pen);
-        flat::GdipSetPenStartCap(pen, Gdiplus::LineCapRound);
-        flat::GdipSetPenEndCap(pen, Gdiplus::LineCapRound);
+        Dropped(flat::GdipCreatePen1(argb, width, Gdiplus::UnitWorld, &pen));
+        Dropped(flat::GdipSetPenStartCap(pen, Gdiplus::LineCapRound));
+        Dropped(flat::GdipSetPenEndCap(pen, Gdiplus::LineCapRound));
     }
-    ~RoundPen() { flat::GdipDeletePen(pen); }
+    ~RoundPen() { Dropped(flat::GdipDeletePen(pen)); }
     RoundPen(const RoundPen&) = delete;
     RoundPen& operator=(const RoundPen&) = delete;
 
@@ -69,7 +70,7 @@ void DrawDot(const Graphics& graphics, const RoundPen& pen, int x, int y)
     constexpr float Unseen = 0.1F;
     const auto left = static_cast<float>(x);
     const auto top = static_cast<float>(y);
-    flat::GdipDrawLine(graphics.Get(), pen.Get(), left, top, left + Unseen, top);
+    Dropped(flat::GdipDrawLine(graphics.Get(), pen.Get(), left, top, left + Unseen, top));
 }
 
 } // namespace
@@ -79,7 +80,7 @@ void DrawGdiPlusLine(HDC dc, const GdiLine& line)
 {
     const Graphics graphics(dc);
     const RoundPen pen(GdiPlusColour(line.colour), PenWidth(line));
-    flat::GdipDrawLineI(graphics.Get(), pen.Get(), line.x1, line.y1, line.x2, line.y2);
+    Dropped(flat::GdipDrawLineI(graphics.Get(), pen.Get(), line.x1, line.y1, line.x2, line.y2));
     if (!HasLength(line) && IsVisible(line)) {
         DrawDot(graphics, pen, line.x1, line.y1);
     }

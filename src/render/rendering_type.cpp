@@ -22,7 +22,26 @@ const wchar_t* ConsultedLine(RenderingType type)
     return L"";
 }
 
+const wchar_t* ChosenLine(RenderingType type)
+{
+    switch (type) {
+    case RenderingType::DirectComposition:
+        return L"Direct Composition is set.\n";
+    case RenderingType::Direct2D:
+        return L"Direct2D is set.\n";
+    case RenderingType::GDI:
+        return L"GDI is set.\n";
+    }
+    return L"";
+}
+
 } // namespace
+
+void ChooseRenderingType(RenderingType type)
+{
+    g_renderingType = type;
+    Log(BASIC, ChosenLine(type));
+}
 
 RenderingType GetRenderingType()
 {

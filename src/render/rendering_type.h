@@ -15,6 +15,9 @@ extern RenderingType g_renderingType;
 // Consults the active type, which writes its line to the log.
 RenderingType GetRenderingType();
 
+// The user's choice takes effect and is told to the log.
+void ChooseRenderingType(RenderingType type);
+
 // Direct2D and GDI draw into the memory bitmap; DirectComposition shows its own surface.
 inline bool DrawsIntoMemory(RenderingType type)
 {

@@ -7,21 +7,16 @@
 
 namespace zq::LM {
 
-// Its text is fixed, as the log's are; the call and its result are for whoever debugs.
+// Its text is fixed, as the log's are.
 class CallFailed : public std::runtime_error {
 public:
-    CallFailed(const char* call, HRESULT result) : std::runtime_error("unknown"), call(call), result(result)
-    {
-    }
-
-    const char* call;
-    HRESULT result;
+    CallFailed() : std::runtime_error("unknown") {}
 };
 
-inline void Require(HRESULT result, const char* call)
+inline void Require(HRESULT result)
 {
     if (FAILED(result)) {
-        throw CallFailed(call, result);
+        throw CallFailed();
     }
 }
 

@@ -2,6 +2,7 @@
 #include "settings/brush_data_server.h"
 
 #include "log/debug_log.h"
+#include "platform/dropped.h"
 
 #include <array>
 #include <cstdio>
@@ -17,8 +18,8 @@ void LogPort(std::uint16_t port)
     }
 }
 
-// Asked for and dropped: the server reports no failure.
-void DropLastError() { static_cast<void>(WSAGetLastError()); }
+// The server reports no failure.
+void DropLastError() { Dropped(WSAGetLastError()); }
 
 } // namespace
 
@@ -57,8 +58,8 @@ void BrushDataServer::Listen_()
     address.sin_family = AF_INET;
     address.sin_port = htons(port);
     address.sin_addr.s_addr = htonl(INADDR_ANY);
-    static_cast<void>(bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof(address)));
-    static_cast<void>(listen(listener, WaitingClients));
+    Dropped(bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof(address)));
+    Dropped(listen(listener, WaitingClients));
 }
 
 // Where every accept fails this spins until the server ends; nobody could reach such a server anyway.

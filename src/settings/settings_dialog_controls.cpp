@@ -2,6 +2,7 @@
 #include "settings/settings_dialog.h"
 
 #include "ink/truncation.h"
+#include "platform/dropped.h"
 #include "resources/resource_ids.h"
 #include "settings/entered_numbers.h"
 
@@ -53,7 +54,7 @@ void ShowTriple(HWND dialog, int id, double first, double second, double third)
         return;
     }
     char text[64];
-    static_cast<void>( // always fits
+    Dropped( // always fits
         std::snprintf(text, std::size(text), "(%3d, %3d, %3d)", TruncateToSigned(first),
                       TruncateToSigned(second), TruncateToSigned(third)));
     SetWindowTextA(edit, text);

@@ -1,6 +1,8 @@
 // The process's use of Winsock.
 #pragma once
 
+#include "platform/dropped.h"
+
 #include <winsock2.h>
 
 #include "platform/win32/windows_header.h"
@@ -27,7 +29,7 @@ public:
     {
         if (started) {
             started = false;
-            static_cast<void>(WSACleanup()); // nothing could be done about a failure
+            Dropped(WSACleanup()); // nothing could be done about a failure
         }
     }
 

@@ -19,11 +19,9 @@ public:
     // A destroyed window takes its hotkey along; the atom stays to be given back.
     void ForgetWindow() { owner = nullptr; }
 
-    ATOM Id() const { return id; } // 0 without a hotkey
-
 private:
     HWND owner = nullptr;
-    ATOM id = 0;
+    ATOM id = 0; // 0 without a hotkey
 };
 
 } // namespace zq::LM

@@ -45,9 +45,7 @@ unsigned TextColour(std::uint32_t index)
     return Colours[std::min<std::size_t>(index, std::size(Colours) - 1)];
 }
 
-} // namespace
-
-struct InformationOverlay::Bar {
+struct Bar {
     int top;
     int bottom;
     unsigned colour;
@@ -56,7 +54,30 @@ struct InformationOverlay::Bar {
     const char* label;
 };
 
-void InformationOverlay::Draw() const
+// One drawing of the overlay.
+class Overlay {
+public:
+    Overlay(DrawingLib& backEnd, double renderScale, const InformationFacts& facts)
+        : backEnd(backEnd), renderScale(renderScale), facts(facts)
+    {
+    }
+
+    void DrawBars() const;
+    void DrawLines() const;
+
+private:
+    void DrawBar_(const Bar& bar, std::uint32_t rate) const;
+    void DrawText_(int x, int y, unsigned colour, const char* text) const
+    {
+        DrawNarrowText(backEnd, renderScale, x, y, colour, text);
+    }
+
+    DrawingLib& backEnd;
+    double renderScale;
+    const InformationFacts& facts;
+};
+
+void Overlay::DrawBars() const
 {
     constexpr int PanelTop = 300;
     constexpr int PanelBottom = 444;
@@ -68,17 +89,16 @@ void InformationOverlay::Draw() const
     backEnd.FillRect(facts.screenWidth - PanelWidth, PanelTop, facts.screenWidth, PanelBottom, PanelColour);
     DrawBar_(PenBar, facts.penRate);
     DrawBar_(DrawingBar, facts.drawingRate);
-    DrawLines_();
 }
 
-void InformationOverlay::DrawBar_(const Bar& bar, std::uint32_t rate) const
+void Overlay::DrawBar_(const Bar& bar, std::uint32_t rate) const
 {
     const int left = facts.screenWidth - PanelWidth;
     backEnd.FillRect(left, bar.top, BarEnd(left, rate), bar.bottom, bar.colour);
     DrawText_(left, bar.labelTop, bar.labelColour, bar.label);
 }
 
-void InformationOverlay::DrawLines_() const
+void Overlay::DrawLines() const
 {
     constexpr int CharacterWidth = 10;
     constexpr int LineHeight = 24;
@@ -114,9 +134,13 @@ void InformationOverlay::DrawLines_() const
     }
 }
 
-void InformationOverlay::DrawText_(int x, int y, unsigned colour, const char* text) const
+} // namespace
+
+void DrawInformationOverlay(DrawingLib& backEnd, double renderScale, const InformationFacts& facts)
 {
-    DrawNarrowText(backEnd, renderScale, x, y, colour, text);
+    const Overlay overlay(backEnd, renderScale, facts);
+    overlay.DrawBars();
+    overlay.DrawLines();
 }
 
 } // namespace zq::LM

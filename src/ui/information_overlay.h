@@ -24,27 +24,8 @@ struct InformationFacts {
     bool debugSwitch = false;
 };
 
-// Draws into a frame that is open. Only a back-end that fills rectangles shows the bars.
-class InformationOverlay {
-public:
-    // Texts are placed on the scaled bitmap, bars are not.
-    InformationOverlay(DrawingLib& backEnd, double renderScale, const InformationFacts& facts)
-        : backEnd(backEnd), renderScale(renderScale), facts(facts)
-    {
-    }
-
-    void Draw() const;
-
-private:
-    struct Bar;
-
-    void DrawBar_(const Bar& bar, std::uint32_t rate) const;
-    void DrawLines_() const;
-    void DrawText_(int x, int y, unsigned colour, const char* text) const;
-
-    DrawingLib& backEnd;
-    double renderScale;
-    const InformationFacts& facts;
-};
+// Into a frame that is open. Only a back-end that fills rectangles shows the bars. Texts are placed on the
+// scaled bitmap, bars are not scaled.
+void DrawInformationOverlay(DrawingLib& backEnd, double renderScale, const InformationFacts& facts);
 
 } // namespace zq::LM

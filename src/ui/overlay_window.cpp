@@ -2,9 +2,10 @@
 #include "ui/overlay_window.h"
 
 #include "log/debug_log.h"
+#include "platform/dropped.h"
 #include "render/rendering_type.h"
 #include "render/shell_window.h"
-#include "ui/tray_message.h"
+#include "ui/tray.h"
 
 #include <cwchar>
 #include <iterator>
@@ -20,6 +21,18 @@ int Height(const RECT& rectangle) { return rectangle.bottom - rectangle.top; }
 
 } // namespace
 
+PixelDensity DensityOf(const RECT& shell, int widthMm, int heightMm)
+{
+    PixelDensity density;
+    if (widthMm > 0) {
+        density.x = static_cast<double>(shell.right) / widthMm;
+    }
+    if (heightMm > 0) {
+        density.y = static_cast<double>(shell.bottom) / heightMm;
+    }
+    return density;
+}
+
 OverlayWindow::OverlayWindow(WindowEvents& events)
     : events(events), screen(ShellWindowRect().value_or(ScreenWithoutShell))
 {
@@ -27,10 +40,9 @@ OverlayWindow::OverlayWindow(WindowEvents& events)
 
 bool OverlayWindow::RegisterWindowClass(HMODULE module, WNDPROC procedure)
 {
-    constexpr unsigned CounterBits = 0xFFFF;
-    static_cast<void>( // the name always fits
+    Dropped( // the name always fits
         std::swprintf(className, std::size(className), L"%ls_%05d", L"Lumora Window Class", g_classCounter));
-    g_classCounter = (g_classCounter + 1) & CounterBits;
+    g_classCounter = ClassNumberAfter(g_classCounter);
 
     windowClass = {};
     windowClass.cbSize = sizeof(windowClass);
@@ -138,12 +150,7 @@ void OverlayWindow::MeasurePixels()
     const RECT shell = ShellWindowRect().value_or(screen);
     const int widthMm = GetDeviceCaps(dc, HORZSIZE);
     const int heightMm = GetDeviceCaps(dc, VERTSIZE);
-    if (widthMm > 0) {
-        pixelsPerMm.x = static_cast<double>(shell.right) / widthMm;
-    }
-    if (heightMm > 0) {
-        pixelsPerMm.y = static_cast<double>(shell.bottom) / heightMm;
-    }
+    pixelsPerMm = DensityOf(shell, widthMm, heightMm);
 }
 
 void OverlayWindow::StartTimer()

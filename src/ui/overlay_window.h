@@ -3,16 +3,36 @@
 
 #include "platform/win32/windows_header.h"
 #include "ui/hotkey.h"
-#include "ui/window_events.h"
 #include "ui/window_timer.h"
 
 namespace zq::LM {
+
+// What the overlay window tells its owner: inside the window's messages, on its thread.
+class WindowEvents {
+public:
+    virtual void OnCreated() = 0; // the handle is known; nothing is set up yet
+    virtual void OnPaint() = 0;
+    virtual void OnTick() = 0;
+    virtual void OnCommand(unsigned id) = 0;
+    virtual void OnMenuWanted() = 0; // by the mouse on the tray icon or by the hotkey
+    virtual void OnShellRestarted() = 0;
+
+protected:
+    ~WindowEvents() = default;
+};
+
+// Class names are numbered in 16 bits.
+constexpr unsigned ClassNumberAfter(unsigned number) { return (number + 1) & 0xFFFF; }
 
 // Screen pixels per millimetre.
 struct PixelDensity {
     double x = 1.0;
     double y = 1.0;
 };
+
+// By the shell's lower right corner, which on one screen is its size. A device that does not know its own
+// size in millimetres leaves 1.
+PixelDensity DensityOf(const RECT& shell, int widthMm, int heightMm);
 
 // Belongs to the thread that creates it. Never destroys its window: whoever ends the instance does, and a
 // change of the back-end leaves the window behind on purpose.
@@ -56,8 +76,6 @@ public:
     void Invalidate();
 
     const RECT& Screen() const { return screen; }
-    bool IsScreenEmpty() const { return IsRectEmpty(&screen) != 0; }
-    PixelDensity Density() const { return pixelsPerMm; }
 
 private:
     LRESULT ServeTrayMessage_(HWND handle, WPARAM wParam, LPARAM lParam);
@@ -68,8 +86,8 @@ private:
     UINT shellRestarted = 0; // a message that the system numbers; 0 while nobody listens
     WNDCLASSEXW windowClass{};
     wchar_t className[256]{};
-    RECT screen; // the shell's desktop, or a stand-in when there is no shell
-    PixelDensity pixelsPerMm;
+    RECT screen;              // the shell's desktop, or a stand-in when there is no shell
+    PixelDensity pixelsPerMm; // nobody asks for it yet
     Hotkey hotkey;
     WindowTimer timer;
 };

@@ -1,5 +1,4 @@
 // The device chain's set-up: its calls, and what follows when one of them fails.
-#include "support/composition/describe.h"
 #include "support/library/composition_test.h"
 
 #include <algorithm>

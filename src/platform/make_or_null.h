@@ -1,0 +1,20 @@
+// Owned objects that may be missing.
+#pragma once
+
+#include <memory>
+#include <new>
+#include <utility>
+
+namespace zq::LM {
+
+// Null when memory runs out: its owner works on without the part that it could not make.
+template <typename Type, typename... Arguments> std::unique_ptr<Type> MakeOrNull(Arguments&&... arguments)
+{
+    try {
+        return std::make_unique<Type>(std::forward<Arguments>(arguments)...);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+} // namespace zq::LM

@@ -1,0 +1,170 @@
+// What frames are drawn on and shown by: the back-ends and the memory bitmap.
+#include "render/canvas.h"
+
+#include "log/debug_log.h"
+#include "render/key_fill.h"
+#include "render/line_rules.h"
+#include "render/shell_window.h"
+
+#include <cstddef>
+
+namespace zq::LM {
+
+Canvas::Canvas(CanvasOwner& owner, const BackEndMakers& makers) : owner(owner)
+{
+    for (const BackEndMaker make : makers) {
+        backEnds.push_back(make());
+    }
+}
+
+DrawingLib* Canvas::ActiveBackEnd() const
+{
+    const auto index = static_cast<std::size_t>(GetRenderingType());
+    return index < backEnds.size() ? backEnds[index].get() : nullptr;
+}
+
+void Canvas::Bind()
+{
+    boundType = g_renderingType;
+    isBoundWithoutSize = IsRectEmpty(&owner.Screen()) != 0;
+    const Use use(*this);
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        backEnd->InitTransparentWindow(owner.Window(), g_colorKey);
+    }
+}
+
+void Canvas::ClearWindowIfMemoryDrawn() const
+{
+    if (DrawsIntoMemory(GetRenderingType())) {
+        ClearWindowToKey(owner.Window());
+    }
+}
+
+void Canvas::SetUpSurface()
+{
+    const Use use(*this);
+    surfaceIsStale = false;
+    ReleaseSurface();
+    if (DrawsIntoMemory(GetRenderingType())) {
+        const RECT& screen = owner.Screen();
+        const RECT client =
+            ShellClientRect().value_or(RECT{0, 0, screen.right - screen.left, screen.bottom - screen.top});
+        surface.Create(owner.Window(), static_cast<int>(client.right * renderScale),
+                       static_cast<int>(client.bottom * renderScale));
+    }
+    SetMemoryDCEverywhere_(surface.DC());
+}
+
+void Canvas::FollowScreen()
+{
+    surfaceIsStale = true;
+    if (!HasWindow_()) {
+        return;
+    }
+    if (DrawingLib* backEnd = ActiveBackEnd()) {
+        const Use use(*this);
+        backEnd->Resize(owner.Window());
+    }
+    if (isBoundWithoutSize && HasWindow_()) {
+        Bind();
+    }
+}
+
+void Canvas::Paint()
+{
+    const Use use(*this);
+    if (!DrawsIntoMemory(GetRenderingType())) {
+        PaintComposed_();
+        return;
+    }
+    // The bitmap covers the screen; one that could not be made is tried again. A window that was set up to be
+    // composed cannot show one.
+    if (DrawsIntoMemory(boundType) && (surfaceIsStale || surface.DC() == nullptr)) {
+        SetUpSurface();
+    }
+    PaintFromMemory_();
+}
+
+void Canvas::PaintComposed_()
+{
+    const PaintSession paint(owner.Window());
+    if (!HasWindow_()) {
+        return;
+    }
+    owner.DrawFrame();
+    if (DrawsIntoMemory(boundType) && HasWindow_()) {
+        ClearWindowToKey(owner.Window()); // nobody draws on this window any more: its last ink must not stay
+    }
+}
+
+void Canvas::PaintFromMemory_()
+{
+    const PaintSession paint(owner.Window());
+    if (!HasWindow_()) {
+        return;
+    }
+    const WindowDC dc(owner.Window());
+    SetBkColor(dc.Get(), g_colorKey);
+    if (surface.DC() != nullptr) {
+        owner.DrawFrame();
+        if (HasWindow_()) {
+            ShowMemory_(dc.Get());
+        }
+    } else if (DrawsIntoMemory(boundType)) {
+        ClearWindowToKey(owner.Window()); // not even white, which the window is erased with
+    }
+}
+
+void Canvas::ShowMemory_(HDC target)
+{
+    RECT client{};
+    GetClientRect(owner.Window(), &client);
+    // A back-end that has not been bound to the window does not know the key: nothing of it is shown.
+    if (g_renderingType != boundType && !surface.Clear()) {
+        return;
+    }
+    surface.CopyTo(target, client, renderScale);
+}
+
+DrawingLib* Canvas::WindowedBackEnd_() const { return HasWindow_() ? ActiveBackEnd() : nullptr; }
+
+void Canvas::BeginFrame()
+{
+    if (DrawingLib* backEnd = WindowedBackEnd_()) {
+        backEnd->Clear();
+    }
+}
+
+void Canvas::EndFrame()
+{
+    if (DrawingLib* backEnd = WindowedBackEnd_()) {
+        if (GetDebugLevel() != NONE) {
+            owner.DrawInformation(*backEnd);
+        }
+        backEnd->Present();
+    }
+}
+
+void Canvas::ReleaseSurface()
+{
+    surface.Release();
+    SetMemoryDCEverywhere_(nullptr);
+}
+
+void Canvas::EndBackEnds()
+{
+    for (std::unique_ptr<DrawingLib>& backEnd : backEnds) {
+        backEnd.reset();
+    }
+}
+
+void Canvas::SetMemoryDCEverywhere_(HDC dc)
+{
+    for (const std::unique_ptr<DrawingLib>& backEnd : backEnds) {
+        if (backEnd != nullptr) {
+            backEnd->SetMemoryDC(dc);
+        }
+    }
+}
+
+} // namespace zq::LM

@@ -1,0 +1,98 @@
+// What frames are drawn on and shown by: the back-ends, of which one is active, and the memory bitmap that
+// two of them share.
+#pragma once
+
+#include "render/drawing_lib.h"
+#include "render/memory_surface.h"
+#include "render/rendering_type.h"
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace zq::LM {
+
+// For whom a canvas draws.
+class CanvasOwner {
+public:
+    // Null once the window or its instance has ended: to be asked after every call that can run host code.
+    virtual HWND Window() const = 0;
+
+    virtual const RECT& Screen() const = 0; // where the window lies; may be empty
+    virtual void DrawFrame() = 0;           // one frame, between BeginFrame and EndFrame
+
+    // What is told for diagnosis, into a frame that is open.
+    virtual void DrawInformation(DrawingLib& backEnd) = 0;
+
+protected:
+    ~CanvasOwner() = default;
+};
+
+// For the window's thread. Each consultation of the active type writes its line to the log.
+class Canvas {
+public:
+    using BackEndMaker = std::unique_ptr<DrawingLib> (*)();
+    using BackEndMakers = std::array<BackEndMaker, 3>; // by RenderingType
+
+    Canvas(CanvasOwner& owner, const BackEndMakers& makers);
+    ~Canvas() = default;
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    // As long as one lives, ink engine, back-ends and memory bitmap are in use and must not end.
+    class Use {
+    public:
+        explicit Use(Canvas& canvas) : depth(canvas.depth) { ++depth; }
+        ~Use() { --depth; }
+        Use(const Use&) = delete;
+        Use& operator=(const Use&) = delete;
+
+    private:
+        unsigned& depth;
+    };
+    bool IsInUse() const { return depth != 0; }
+
+    // Null where the back-end does not exist.
+    DrawingLib* ActiveBackEnd() const;
+
+    double Scale() const { return renderScale; }
+
+    // Steps of a window's set-up: the active back-end is bound to it; it is cleared to the key, if it is one
+    // that the memory bitmap is copied to; the bitmap is made anew, if the active back-end draws into one.
+    void Bind();
+    void ClearWindowIfMemoryDrawn() const;
+    void SetUpSurface();
+
+    // The owner's screen has another place or size, and the window follows it already.
+    void FollowScreen();
+
+    // Serves WM_PAINT: asks the owner for a frame and shows it.
+    void Paint();
+
+    // The ends of a frame. Nothing happens without a window: nobody would see it.
+    void BeginFrame();
+    void EndFrame();
+
+    // The two ends of giving back; between them the owner gives back what draws. Each may be called again.
+    void ReleaseSurface();
+    void EndBackEnds();
+
+private:
+    bool HasWindow_() const { return owner.Window() != nullptr; }
+    DrawingLib* WindowedBackEnd_() const;
+    void SetMemoryDCEverywhere_(HDC dc);
+    void PaintComposed_();
+    void PaintFromMemory_();
+    void ShowMemory_(HDC target);
+
+    CanvasOwner& owner;
+    std::vector<std::unique_ptr<DrawingLib>> backEnds; // the index is the RenderingType
+    MemorySurface surface;
+    double renderScale = 1.0;    // pixels of the bitmap for one of the window's; nothing changes it
+    unsigned depth = 0;          // of uses
+    bool surfaceIsStale = false; // the screen has changed since the bitmap was made
+    RenderingType boundType = RenderingType::DirectComposition; // whose back-end the window is set up for
+    bool isBoundWithoutSize = false; // to a window of no size, on which a back-end may have failed
+};
+
+} // namespace zq::LM
