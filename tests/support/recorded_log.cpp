@@ -3,7 +3,6 @@
 
 #include "platform/debugger_output.h"
 
-#include <mutex>
 #include <string_view>
 
 namespace zq::LM {
@@ -11,15 +10,20 @@ namespace zq::LM {
 namespace {
 
 std::mutex g_mutex;
-bool g_recording = false;
-std::vector<test::LogLine> g_lines;
+test::RecordedLog* g_log = nullptr;
 
-void Record(bool wide, std::string text)
+void Record(test::LogLine line)
 {
     const std::lock_guard lock(g_mutex);
-    if (g_recording) {
-        g_lines.push_back({wide, std::move(text)});
+    if (g_log != nullptr) {
+        g_log->Add(std::move(line));
     }
+}
+
+void RecordInto(test::RecordedLog* log)
+{
+    const std::lock_guard lock(g_mutex);
+    g_log = log;
 }
 
 } // namespace
@@ -30,40 +34,15 @@ void WriteToDebugger(const wchar_t* text)
     for (const wchar_t character : std::wstring_view(text)) {
         narrow += static_cast<char>(character);
     }
-    Record(true, std::move(narrow));
+    Record({true, std::move(narrow)});
 }
 
-void WriteToDebugger(const char* text) { Record(false, text); }
+void WriteToDebugger(const char* text) { Record({false, text}); }
 
 namespace test {
 
-RecordedLog::RecordedLog()
-{
-    const std::lock_guard lock(g_mutex);
-    g_lines.clear();
-    g_recording = true;
-}
-
-RecordedLog::~RecordedLog()
-{
-    const std::lock_guard lock(g_mutex);
-    g_recording = false;
-}
-
-std::vector<LogLine> RecordedLog::Lines() const
-{
-    const std::lock_guard lock(g_mutex);
-    return g_lines;
-}
-
-std::vector<std::string> RecordedLog::Texts() const
-{
-    std::vector<std::string> texts;
-    for (LogLine& line : Lines()) {
-        texts.push_back(std::move(line.text));
-    }
-    return texts;
-}
+RecordedLog::RecordedLog() { RecordInto(this); }
+RecordedLog::~RecordedLog() { RecordInto(nullptr); }
 
 } // namespace test
 

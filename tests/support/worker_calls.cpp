@@ -3,57 +3,40 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <chrono>
-#include <mutex>
 #include <thread>
 
 namespace zq::LM::test {
 
 namespace {
 
-DWORD g_testThread = 0;
-std::atomic<unsigned> g_accepts{0};
-std::atomic<unsigned> g_receives{0};
-std::atomic<unsigned> g_closes{0};
-std::atomic<SOCKET> g_listener{INVALID_SOCKET};
-std::mutex g_closedMutex;
-std::vector<SOCKET> g_closed;
+HMODULE Program() { return GetModuleHandleW(nullptr); }
 
-decltype(::accept)* g_accept = nullptr;
-decltype(::recv)* g_receive = nullptr;
-decltype(::closesocket)* g_close = nullptr;
+} // namespace
 
-bool IsWorker() { return GetCurrentThreadId() != g_testThread; }
-
-SOCKET WSAAPI CountAccept(SOCKET listener, sockaddr* peer, int* size)
+WorkerCalls::WorkerCalls() : accept(Program()), receive(Program()), close(Program())
 {
-    if (IsWorker()) {
-        g_listener = listener;
-        ++g_accepts;
-    }
-    return g_accept(listener, peer, size);
+    accept.Before([this](SOCKET socket, sockaddr*, int*) {
+        if (IsWorker_()) {
+            listener = socket;
+            ++accepts;
+        }
+    });
+    receive.Before([this](SOCKET, char*, int, int) { receives += IsWorker_() ? 1 : 0; });
+    close.Before([this](SOCKET socket) {
+        closes += IsWorker_() ? 1 : 0;
+        const std::lock_guard lock(mutex);
+        closed.push_back(socket);
+    });
 }
 
-int WSAAPI CountReceive(SOCKET client, char* bytes, int count, int flags)
+std::vector<SOCKET> WorkerCalls::Closed() const
 {
-    if (IsWorker()) {
-        ++g_receives;
-    }
-    return g_receive(client, bytes, count, flags);
+    const std::lock_guard lock(mutex);
+    return closed;
 }
 
-int WSAAPI NoteClose(SOCKET closed)
-{
-    if (IsWorker()) {
-        ++g_closes;
-    }
-    const std::lock_guard lock(g_closedMutex);
-    g_closed.push_back(closed);
-    return g_close(closed);
-}
-
-void WaitFor(const std::atomic<unsigned>& counter, unsigned count, const char* calls)
+void WorkerCalls::WaitFor_(const std::atomic<unsigned>& counter, unsigned count, const char* calls)
 {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
     while (counter < count) {
@@ -62,38 +45,6 @@ void WaitFor(const std::atomic<unsigned>& counter, unsigned count, const char* c
         }
         std::this_thread::yield();
     }
-}
-
-HMODULE Program() { return GetModuleHandleW(nullptr); }
-
-} // namespace
-
-WorkerCalls::WorkerCalls()
-    : accept(Program(), "WS2_32.dll", "accept", AsAddress(CountAccept)),
-      receive(Program(), "WS2_32.dll", "recv", AsAddress(CountReceive)),
-      close(Program(), "WS2_32.dll", "closesocket", AsAddress(NoteClose))
-{
-    g_testThread = GetCurrentThreadId();
-    g_accepts = 0;
-    g_receives = 0;
-    g_closes = 0;
-    g_closed.clear();
-    g_accept = reinterpret_cast<decltype(::accept)*>(accept.Original());
-    g_receive = reinterpret_cast<decltype(::recv)*>(receive.Original());
-    g_close = reinterpret_cast<decltype(::closesocket)*>(close.Original());
-}
-
-unsigned WorkerCalls::Accepts() const { return g_accepts; }
-unsigned WorkerCalls::Receives() const { return g_receives; }
-unsigned WorkerCalls::Closes() const { return g_closes; }
-void WorkerCalls::WaitForAccepts(unsigned count) const { WaitFor(g_accepts, count, "accepts"); }
-void WorkerCalls::WaitForReceives(unsigned count) const { WaitFor(g_receives, count, "receives"); }
-SOCKET WorkerCalls::Listener() const { return g_listener; }
-
-std::vector<SOCKET> WorkerCalls::Closed() const
-{
-    const std::lock_guard lock(g_closedMutex);
-    return g_closed;
 }
 
 } // namespace zq::LM::test

@@ -1,36 +1,48 @@
 // Watches what the brush-data server's worker asks of Winsock, with the server linked into the test program.
 #pragma once
 
-#include "support/import_patch.h"
+#include "support/hook/import_hook.h"
 
 #include <winsock2.h>
 
+#include <atomic>
+#include <mutex>
 #include <vector>
 
 namespace zq::LM::test {
 
 // Counts each of the worker's calls as it begins: those that are not made on the thread that this was made
 // on. A receive that begins tells that the bytes of the one before lie in the server's buffer; an accept,
-// that the client before is closed. One at a time.
+// that the client before is closed.
 class WorkerCalls {
 public:
     WorkerCalls();
 
-    unsigned Accepts() const;
-    unsigned Receives() const;
-    unsigned Closes() const;
+    unsigned Accepts() const { return accepts; }
+    unsigned Receives() const { return receives; }
+    unsigned Closes() const { return closes; }
 
     // Fail the test when it does not come to so many.
-    void WaitForAccepts(unsigned count) const;
-    void WaitForReceives(unsigned count) const;
+    void WaitForAccepts(unsigned count) const { WaitFor_(accepts, count, "accepts"); }
+    void WaitForReceives(unsigned count) const { WaitFor_(receives, count, "receives"); }
 
-    SOCKET Listener() const;            // what the last accept was called on
-    std::vector<SOCKET> Closed() const; // by hand, on any thread
+    SOCKET Listener() const { return listener; } // what the last accept was called on
+    std::vector<SOCKET> Closed() const;          // by hand, on any thread
 
 private:
-    ImportPatch accept;
-    ImportPatch receive;
-    ImportPatch close;
+    static void WaitFor_(const std::atomic<unsigned>& counter, unsigned count, const char* calls);
+    bool IsWorker_() const { return GetCurrentThreadId() != testThread; }
+
+    const DWORD testThread = GetCurrentThreadId();
+    std::atomic<unsigned> accepts = 0;
+    std::atomic<unsigned> receives = 0;
+    std::atomic<unsigned> closes = 0;
+    std::atomic<SOCKET> listener = INVALID_SOCKET;
+    mutable std::mutex mutex;
+    std::vector<SOCKET> closed;
+    Hook<"accept", decltype(::accept)> accept;
+    Hook<"recv", decltype(::recv)> receive;
+    Hook<"closesocket", decltype(::closesocket)> close;
 };
 
 } // namespace zq::LM::test

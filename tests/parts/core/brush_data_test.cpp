@@ -50,7 +50,7 @@ TEST_F(CoreBrushData, OfNullFromTheHostIsOfNoKind)
 
 TEST_F(CoreBrushData, HasNoServerUnlessItIsWanted)
 {
-    calls.Record<"WSAStartup">("WS2_32.dll", WSAStartup);
+    calls.Record<"WSAStartup">(WSAStartup);
     CreateWindowed();
     EXPECT_EQ(calls.Count("WSAStartup"), 0U);
     SendMessageW(core->Window(), WM_TIMER, 0, 0);
@@ -62,6 +62,12 @@ TEST_F(CoreBrushData, HasNoServerUnlessItIsWanted)
 class CoreBrushDataServer : public CoreBrushData {
 protected:
     CoreBrushDataServer() { makers.useBrushDataServer = true; }
+    ~CoreBrushDataServer() override
+    {
+        if (core != nullptr) {
+            DestroyWindowAndCore(); // while its worker is still watched
+        }
+    }
 
     // Returns when the bytes lie in the server's buffer.
     void SendOnce(const Bytes& bytes)
@@ -174,7 +180,7 @@ TEST_F(CoreBrushDataServer, ATickTakesBrushDataBeforeItAgesTheInk)
 TEST_F(CoreBrushDataServer, EndsAfterTheTimerAndBeforeTheBackEnds)
 {
     RecordDestruction();
-    calls.Record<"WSACleanup">("WS2_32.dll", WSACleanup);
+    calls.Record<"WSACleanup">(WSACleanup);
     CreateWindowed();
     const LogLevel basic(BASIC);
     calls.RecordLog();

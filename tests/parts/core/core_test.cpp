@@ -8,17 +8,18 @@ namespace zq::LM::test {
 namespace {
 
 std::array<FakeBackEnd*, 3> g_backEnds{};
+CallLog* g_log = nullptr; // of the test that runs
 
 class FakeView final : public ParamsView {
 public:
-    ~FakeView() override { AddLine("view destroyed"); }
-    void Open() override { AddLine("view opened"); }
-    void Refresh() override { AddLine("view refreshed"); }
+    ~FakeView() override { Note("view destroyed"); }
+    void Open() override { Note("view opened"); }
+    void Refresh() override { Note("view refreshed"); }
 };
 
 template <int place> std::unique_ptr<DrawingLib> MakeFakeBackEnd()
 {
-    auto backEnd = std::make_unique<FakeBackEnd>(place);
+    auto backEnd = std::make_unique<FakeBackEnd>(place, *g_log);
     g_backEnds[place] = backEnd.get();
     return backEnd;
 }
@@ -35,7 +36,13 @@ const Makers FakeMakers = {
 
 std::unique_ptr<DrawingLib> NoBackEnd() { return nullptr; }
 
-CoreTest::CoreTest() { calls.Name(shell.Window(), "shell"); }
+void Note(const std::string& line) { g_log->AddLine(line); }
+
+CoreTest::CoreTest()
+{
+    g_log = &calls.Log();
+    calls.Name(shell.Window(), "shell");
+}
 
 CoreTest::~CoreTest()
 {
@@ -72,35 +79,33 @@ void CoreTest::DestroyWindowAndCore()
 
 void CoreTest::RecordDestruction()
 {
-    calls.Record<"GetDC">("USER32.dll", GetDC);
-    calls.Record<"CreateCompatibleDC">("GDI32.dll", CreateCompatibleDC);
-    calls.Record<"CreateCompatibleBitmap">("GDI32.dll", CreateCompatibleBitmap);
-    calls.Record<"DeleteDC">("GDI32.dll", DeleteDC);
-    calls.Record<"DeleteObject">("GDI32.dll", DeleteObject);
-    calls.Record<"KillTimer">("USER32.dll", KillTimer);
+    calls.Record<"GetDC">(GetDC);
+    calls.Record<"CreateCompatibleDC">(CreateCompatibleDC);
+    calls.Record<"CreateCompatibleBitmap">(CreateCompatibleBitmap);
+    calls.Record<"DeleteDC">(DeleteDC);
+    calls.Record<"DeleteObject">(DeleteObject);
+    calls.Record<"KillTimer">(KillTimer);
 }
 
 void CoreTest::RecordHotkey()
 {
     constexpr ATOM Atom = 0xC123;
-    calls.Answer<"GlobalAddAtomW">("KERNEL32.dll", GlobalAddAtomW, [](LPCWSTR) { return Atom; });
-    calls.Answer<"GlobalDeleteAtom">("KERNEL32.dll", GlobalDeleteAtom, [](ATOM) { return ATOM{0}; });
-    calls.Answer<"RegisterHotKey">("USER32.dll", RegisterHotKey, [](HWND, int, UINT, UINT) { return TRUE; });
-    calls.Answer<"UnregisterHotKey">("USER32.dll", UnregisterHotKey, [](HWND, int) { return TRUE; });
+    calls.Answer<"GlobalAddAtomW">(GlobalAddAtomW, [](LPCWSTR) { return Atom; });
+    calls.Answer<"GlobalDeleteAtom">(GlobalDeleteAtom, [](ATOM) { return ATOM{0}; });
+    calls.Answer<"RegisterHotKey">(RegisterHotKey, [](HWND, int, UINT, UINT) { return TRUE; });
+    calls.Answer<"UnregisterHotKey">(UnregisterHotKey, [](HWND, int) { return TRUE; });
 }
 
 void CoreTest::RecordTray()
 {
-    calls.Answer<"LoadImageW">("USER32.dll", LoadImageW,
-                               [](HINSTANCE, LPCWSTR name, UINT type, int, int, UINT) -> HANDLE {
-                                   return type == IMAGE_ICON ? CopyIcon(LoadIconW(nullptr, IDI_APPLICATION))
-                                                             : LoadCursorW(nullptr, name);
-                               });
-    calls.Answer<"LoadMenuW">("USER32.dll", LoadMenuW, [](HINSTANCE, LPCWSTR) { return CreateMenu(); });
-    calls.Answer<"Shell_NotifyIconW">("SHELL32.dll", Shell_NotifyIconW,
-                                      [](DWORD, NOTIFYICONDATAW*) { return TRUE; });
-    calls.Record<"DestroyIcon">("USER32.dll", DestroyIcon);
-    calls.Record<"DestroyMenu">("USER32.dll", DestroyMenu);
+    calls.Answer<"LoadImageW">(LoadImageW, [](HINSTANCE, LPCWSTR name, UINT type, int, int, UINT) -> HANDLE {
+        return type == IMAGE_ICON ? CopyIcon(LoadIconW(nullptr, IDI_APPLICATION))
+                                  : LoadCursorW(nullptr, name);
+    });
+    calls.Answer<"LoadMenuW">(LoadMenuW, [](HINSTANCE, LPCWSTR) { return CreateMenu(); });
+    calls.Answer<"Shell_NotifyIconW">(Shell_NotifyIconW, [](DWORD, NOTIFYICONDATAW*) { return TRUE; });
+    calls.Record<"DestroyIcon">(DestroyIcon);
+    calls.Record<"DestroyMenu">(DestroyMenu);
 }
 
 FakeBackEnd& CoreTest::BackEnd(RenderingType type) { return *g_backEnds[static_cast<std::size_t>(type)]; }

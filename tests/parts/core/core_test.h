@@ -3,9 +3,13 @@
 
 #include "core/core.h"
 #include "support/fakes/back_end.h"
-#include "support/screen.h"
-#include "support/system_calls.h"
-#include "support/system_stand_ins.h"
+#include "support/fakes/clock.h"
+#include "support/fakes/debugger.h"
+#include "support/fakes/graphics_device.h"
+#include "support/fakes/shell.h"
+#include "support/fakes/timer.h"
+#include "support/hook/hooks.h"
+#include "support/screen/screen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,6 +25,9 @@ using Lines = std::vector<std::string>;
 // server.
 extern const Makers FakeMakers;
 std::unique_ptr<DrawingLib> NoBackEnd();
+
+// Among the calls of the test that runs.
+void Note(const std::string& line);
 
 class CoreTest : public ::testing::Test {
 protected:
@@ -56,7 +63,7 @@ protected:
     TimerStandIn timer{Program()};
     NoGraphicsDevice noDevice{Program()};
     ClockStandIn clock{Program()};
-    SystemCalls calls{Program()};
+    Hooks calls{Program()};
     Makers makers = FakeMakers;
     Owned<Core> core;
 };

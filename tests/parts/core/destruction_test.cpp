@@ -18,7 +18,7 @@ public:
     ~EngineEnd()
     {
         if (told.use_count() == 1) {
-            AddLine("engine freed");
+            Note("engine freed");
         }
     }
     void operator()(int, int, unsigned, unsigned, const char*) const {}

@@ -12,9 +12,9 @@ class CoreFrameTest : public CoreTest {
 protected:
     void RecordPaint()
     {
-        calls.Record<"BeginPaint">("USER32.dll", BeginPaint);
-        calls.Record<"EndPaint">("USER32.dll", EndPaint);
-        calls.Record<"ReleaseDC">("USER32.dll", ReleaseDC);
+        calls.Record<"BeginPaint">(BeginPaint);
+        calls.Record<"EndPaint">(EndPaint);
+        calls.Record<"ReleaseDC">(ReleaseDC);
     }
 
     Lines CallsOfOnePaint()
@@ -57,7 +57,7 @@ TEST_F(CoreFrameTest, ForDirectCompositionEveryBackEndIsToldTwiceThatThereIsNoSu
 
 TEST_F(CoreFrameTest, ANewScreenResizesTheActiveBackEndBeforeTheFrame)
 {
-    calls.Record<"SetWindowPos">("USER32.dll", SetWindowPos);
+    calls.Record<"SetWindowPos">(SetWindowPos);
     CreateWindowed(RenderingType::DirectComposition);
     shell.Move({100, 40, 900, 640});
     RecordPaint();
@@ -127,7 +127,7 @@ TEST_F(CoreFrameTest, AnExceptionOfAnyTypeStaysInside)
 TEST_F(CoreFrameTest, AFailedFrameReleasesTheWindowsDeviceContext)
 {
     CreateWindowed(RenderingType::GDI);
-    calls.Record<"GetDC">("USER32.dll", GetDC);
+    calls.Record<"GetDC">(GetDC);
     RecordPaint();
     calls.Take();
     BackEnd(RenderingType::GDI).whenCleared = [] { throw std::bad_alloc(); };

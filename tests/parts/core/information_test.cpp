@@ -167,11 +167,11 @@ TEST_F(CoreInformationTest, ThePenRateIsThatOfTheLiveSamples)
 TEST_F(CoreInformationTest, TheVersionIsTheModulesOwn)
 {
     const LogLevel level(BASIC);
-    calls.Answer<"GetFileVersionInfoSizeW">("VERSION.dll", GetFileVersionInfoSizeW,
+    calls.Answer<"GetFileVersionInfoSizeW">(GetFileVersionInfoSizeW,
                                             [](LPCWSTR, DWORD*) -> DWORD { return 1; });
-    calls.Answer<"GetFileVersionInfoW">("VERSION.dll", GetFileVersionInfoW,
+    calls.Answer<"GetFileVersionInfoW">(GetFileVersionInfoW,
                                         [](LPCWSTR, DWORD, DWORD, void*) { return TRUE; });
-    calls.Answer<"VerQueryValueW">("VERSION.dll", VerQueryValueW, [](LPCVOID, LPCWSTR, void** block, UINT*) {
+    calls.Answer<"VerQueryValueW">(VerQueryValueW, [](LPCVOID, LPCWSTR, void** block, UINT*) {
         static VS_FIXEDFILEINFO info{};
         info.dwFileVersionMS = 0x00010002;
         info.dwFileVersionLS = 0x00030004;

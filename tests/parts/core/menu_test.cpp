@@ -11,7 +11,7 @@ protected:
 TEST_F(CoreMenuTest, TheSettingsCommandOpensTheRecordsViewAndRepaints)
 {
     HWND window = CreateWindowed(RenderingType::GDI);
-    calls.Record<"InvalidateRect">("USER32.dll", InvalidateRect);
+    calls.Record<"InvalidateRect">(InvalidateRect);
     calls.Name(window, "window 1");
     calls.Take();
     EXPECT_EQ(SendMessageW(window, WM_COMMAND, SettingsCommand, 0), 0);

@@ -14,11 +14,11 @@ protected:
     ScreenColourTest()
     {
         CreateWindowed();
-        calls.Answer<"GetCursorPos">("USER32.dll", GetCursorPos, [](POINT* position) {
+        calls.Answer<"GetCursorPos">(GetCursorPos, [](POINT* position) {
             *position = {123, 45};
             return TRUE;
         });
-        calls.Answer<"GetPixel">("GDI32.dll", GetPixel, [this](HDC, int, int) { return screenColour; });
+        calls.Answer<"GetPixel">(GetPixel, [this](HDC, int, int) { return screenColour; });
     }
 
     void SetPicking(std::uint8_t flag)
@@ -48,8 +48,8 @@ protected:
 
 TEST_F(ScreenColourTest, IsThePixelUnderTheMouseCursorAndTheDeviceContextIsGivenBack)
 {
-    calls.Record<"GetDC">("USER32.dll", GetDC);
-    calls.Record<"ReleaseDC">("USER32.dll", ReleaseDC);
+    calls.Record<"GetDC">(GetDC);
+    calls.Record<"ReleaseDC">(ReleaseDC);
     calls.Name(GetDesktopWindow(), "desktop");
     EXPECT_EQ(PickScreenColorCallback(false), 0x00A0B0C0U);
     EXPECT_EQ(calls.Take(), (Lines{"GetDC(desktop)", "GetCursorPos(*)", "GetPixel(dc of desktop, 123, 45)",
@@ -59,7 +59,7 @@ TEST_F(ScreenColourTest, IsThePixelUnderTheMouseCursorAndTheDeviceContextIsGiven
 TEST_F(ScreenColourTest, IsBlackWithoutADeviceContext)
 {
     SetPicking(1);
-    calls.Answer<"GetDC">("USER32.dll", GetDC, [](HWND) -> HDC { return nullptr; });
+    calls.Answer<"GetDC">(GetDC, [](HWND) -> HDC { return nullptr; });
     EXPECT_EQ(PickScreenColorCallback(true), 0U);
     EXPECT_EQ(Record().inkColor, 0U);
     EXPECT_EQ(Record().colorPicker, 0);

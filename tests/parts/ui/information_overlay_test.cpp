@@ -43,8 +43,8 @@ protected:
     }
 
     InformationFacts facts;
-    SystemCalls calls{GetModuleHandleW(nullptr)};
-    FakeBackEnd backEnd{0};
+    CallLog calls;
+    FakeBackEnd backEnd{0, calls};
 };
 
 std::string Line(const std::string& text, int y)

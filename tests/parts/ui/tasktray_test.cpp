@@ -1,6 +1,6 @@
 // The tray helper: what it tells the shell, and what it gives back.
-#include "support/library.h"
-#include "support/system_calls.h"
+#include "support/hook/hooks.h"
+#include "support/library/library.h"
 #include "ui/tasktray.h"
 
 #include <gmock/gmock.h>
@@ -29,13 +29,12 @@ class TasktrayTest : public ::testing::Test {
 protected:
     TasktrayTest()
     {
-        calls.Record<"LoadImageW">("USER32.dll", LoadImageW);
-        calls.Record<"DestroyIcon">("USER32.dll", DestroyIcon);
-        calls.Answer<"Shell_NotifyIconW">("SHELL32.dll", Shell_NotifyIconW,
-                                          [this](DWORD, NOTIFYICONDATAW* offered) {
-                                              data = *offered;
-                                              return shellAnswer;
-                                          });
+        calls.Record<"LoadImageW">(LoadImageW);
+        calls.Record<"DestroyIcon">(DestroyIcon);
+        calls.Answer<"Shell_NotifyIconW">(Shell_NotifyIconW, [this](DWORD, NOTIFYICONDATAW* offered) {
+            data = *offered;
+            return shellAnswer;
+        });
         calls.Name(window, "window");
     }
     ~TasktrayTest() override { FreeLibrary(resources); }
@@ -55,7 +54,7 @@ protected:
     HMODULE resources = LoadLibraryExW(LibraryPath(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE);
     BOOL shellAnswer = TRUE;
     NOTIFYICONDATAW data{};
-    SystemCalls calls{GetModuleHandleW(nullptr)};
+    Hooks calls{GetModuleHandleW(nullptr)};
     std::optional<Tasktray> tray{std::in_place};
 };
 
@@ -178,14 +177,14 @@ class TasktrayMenuTest : public TasktrayTest {
 protected:
     TasktrayMenuTest()
     {
-        calls.Answer<"GetCursorPos">("USER32.dll", GetCursorPos, [this](POINT* position) {
+        calls.Answer<"GetCursorPos">(GetCursorPos, [this](POINT* position) {
             if (cursorIsKnown) {
                 *position = {300, -20};
             }
             return cursorIsKnown;
         });
-        calls.Answer<"SetForegroundWindow">("USER32.dll", SetForegroundWindow, [](HWND) { return FALSE; });
-        calls.Answer<"TrackPopupMenu">("USER32.dll", TrackPopupMenu,
+        calls.Answer<"SetForegroundWindow">(SetForegroundWindow, [](HWND) { return FALSE; });
+        calls.Answer<"TrackPopupMenu">(TrackPopupMenu,
                                        [](HMENU, UINT, int, int, int, HWND, const RECT*) { return FALSE; });
         SetUpTray();
     }

@@ -4,16 +4,15 @@
 #include "support/composition/chosen_answers.h"
 #include "support/composition/object_table.h"
 #include "support/composition/pixel_reader.h"
-#include "support/composition/recorded_call.h"
+#include "support/hook/call_log.h"
 
 #include <map>
 #include <string>
-#include <vector>
 
 namespace zq::LM::test {
 
 struct CallRecorder {
-    std::vector<RecordedCall> calls;
+    CallLog log;
     ObjectTable objects;
     ChosenAnswers answers;
     std::map<std::string, int> standIns; // objects of the stand-in's own that live, by kind

@@ -30,7 +30,7 @@ CallScope::CallScope(const void* caller, const void* object, const char* method)
 {
     ++t_depth;
     if (recorded) {
-        call.object = object != nullptr ? Recorder()->objects.Name(object) : "";
+        call.object = object != nullptr ? NameOf(object) : "";
         call.method = method;
         call.enteredAt = Now();
     }
@@ -41,7 +41,7 @@ CallScope::~CallScope()
     --t_depth;
     if (kept) {
         call.leftAt = Now();
-        Recorder()->calls.push_back(call);
+        Recorder()->log.Add(call);
     }
 }
 
@@ -60,7 +60,7 @@ void CallScope::Made(const void* made, const char* kind)
 {
     if (recorded) {
         Recorder()->objects.Given(made, kind);
-        call.made = Recorder()->objects.Name(made);
+        call.made = NameOf(made);
     }
 }
 

@@ -1,8 +1,8 @@
 // The recording of one call, from its entry to its return.
 #pragma once
 
-#include "support/composition/describe.h"
-#include "support/composition/recorded_call.h"
+#include "support/composition/show_graphics.h"
+#include "support/hook/call_log.h"
 
 #include <windows.h>
 
@@ -49,7 +49,7 @@ private:
             if (!call.arguments.empty()) {
                 call.arguments += ", ";
             }
-            call.arguments += Describe(value);
+            call.arguments += Show(value);
         }
     }
 

@@ -7,29 +7,23 @@ namespace zq::LM::test {
 
 void ChosenAnswers::Choose(const std::string& step, HRESULT result, unsigned nth, unsigned times)
 {
-    choices.push_back({step, result, nth - 1, times});
+    choices.push_back({step, result, NthCall(nth, times)});
 }
 
 std::optional<HRESULT> ChosenAnswers::Next(const std::string& step)
 {
     for (Choice& choice : choices) {
-        if (choice.step != step || choice.times == 0) {
-            continue;
+        if (choice.step == step && !choice.calls.IsOver()) {
+            return choice.calls.Next() ? std::optional(choice.result) : std::nullopt;
         }
-        if (choice.before > 0) {
-            --choice.before;
-            return std::nullopt;
-        }
-        --choice.times;
-        choice.used = true;
-        return choice.result;
     }
     return std::nullopt;
 }
 
 bool ChosenAnswers::AllUsed() const
 {
-    return std::all_of(choices.begin(), choices.end(), [](const Choice& choice) { return choice.used; });
+    return std::all_of(choices.begin(), choices.end(),
+                       [](const Choice& choice) { return choice.calls.WasUsed(); });
 }
 
 } // namespace zq::LM::test

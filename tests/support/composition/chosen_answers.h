@@ -1,6 +1,8 @@
 // The results that a test has chosen for calls yet to come.
 #pragma once
 
+#include "support/hook/nth_call.h"
+
 #include <windows.h>
 
 #include <optional>
@@ -24,9 +26,7 @@ private:
     struct Choice {
         std::string step;
         HRESULT result;
-        unsigned before; // calls still made first
-        unsigned times;
-        bool used = false;
+        NthCall calls;
     };
     std::vector<Choice> choices;
 };

@@ -18,7 +18,7 @@ namespace zq::LM::test {
 // are called "D3D11CreateDevice", "DeviceContext.CreateSolidColorBrush" and the like.
 class CompositionStandIn {
 public:
-    static constexpr unsigned Always = ~0U;
+    static constexpr unsigned Always = NthCall::Always;
 
     explicit CompositionStandIn(HMODULE module);
     ~CompositionStandIn();
@@ -26,10 +26,10 @@ public:
     CompositionStandIn& operator=(const CompositionStandIn&) = delete;
 
     // The calls since the last Take, in order; as texts such as "Brush#2.Release() = 0".
-    const std::vector<RecordedCall>& Calls() const { return recorder.calls; }
-    std::vector<std::string> Take();
-    std::vector<std::string> TakeOf(const std::string& step); // these calls alone; the rest is dropped
-    std::size_t Count(const std::string& step) const;
+    std::vector<RecordedCall> Calls() const { return recorder.log.Calls(); }
+    std::vector<std::string> Take() { return recorder.log.Take(); }
+    std::vector<std::string> TakeOf(const std::string& step) { return recorder.log.TakeOf(step); }
+    std::size_t Count(const std::string& step) const { return recorder.log.Count(step); }
 
     // Whether calls are kept; on at first. A long play would fill the memory with them.
     void KeepCalls(bool keep) { recorder.keepCalls = keep; }

@@ -5,24 +5,12 @@
 #include "support/composition/caller.h"
 #include "support/composition/context_targets.h"
 #include "support/composition/recorded_interfaces.h"
-#include "support/composition/vtable_slots.h"
-#include "support/import_entry.h"
+#include "support/hook/fixed_text.h"
+#include "support/hook/method_slot.h"
 
-#include <cstddef>
 #include <type_traits>
 
 namespace zq::LM::test {
-
-// A text as a template argument: each hooked method has a function of its own.
-template <std::size_t Size> struct MethodName {
-    constexpr MethodName(const char (&source)[Size])
-    {
-        for (std::size_t i = 0; i < Size; ++i) {
-            text[i] = source[i];
-        }
-    }
-    char text[Size]{};
-};
 
 // Objects come out by their own type or, as unknown ones, by the identifier that went in.
 inline const GUID* IdAmong() { return nullptr; }
@@ -79,18 +67,16 @@ Result Make(CallScope& scope, Original original, Arguments... arguments)
 // What a method is to a device context that has no target.
 enum class WithoutTarget { Works, IsLeftOut };
 
-template <MethodName Name, auto Method, WithoutTarget Missing = WithoutTarget::Works> struct MethodHook;
+template <FixedText Name, auto Method, WithoutTarget Missing = WithoutTarget::Works> struct MethodHook;
 
-template <MethodName Name, typename Interface, typename Result, typename... Arguments,
+template <FixedText Name, typename Interface, typename Result, typename... Arguments,
           Result (Interface::*Method)(Arguments...), WithoutTarget Missing>
 struct MethodHook<Name, Method, Missing> {
     static Result STDMETHODCALLTYPE Call(Interface* self, Arguments... arguments)
     {
-        using Original = Result(STDMETHODCALLTYPE*)(Interface*, Arguments...);
         CallScope scope(LUMORA_CALLER, self, Name.text);
-        const auto original = reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<Method>()));
         if (!scope.IsRecorded()) {
-            return original(self, arguments...);
+            return MethodSlot<Method>::Real(self, arguments...);
         }
         scope.Arguments(arguments...);
         if constexpr (Missing == WithoutTarget::IsLeftOut) {
@@ -99,10 +85,11 @@ struct MethodHook<Name, Method, Missing> {
             }
         }
         return Make<Result>(
-            scope, [=](const Arguments&... taken) { return original(self, taken...); }, arguments...);
+            scope, [self](const Arguments&... taken) { return MethodSlot<Method>::Real(self, taken...); },
+            arguments...);
     }
 
-    static void Patch(void* object) { PatchSlot(object, SlotOf<Method>(), AsAddress(Call)); }
+    static void Patch(void* object) { MethodSlot<Method>::Hook(object, Call); }
 };
 
 } // namespace zq::LM::test

@@ -1,6 +1,8 @@
 // The objects that the watched module has been given.
 #include "support/composition/object_table.h"
 
+#include "support/hook/names.h"
+
 namespace zq::LM::test {
 
 void ObjectTable::Given(const void* object, const char* kind)
@@ -9,6 +11,7 @@ void ObjectTable::Given(const void* object, const char* kind)
     if (entry.references <= 0) { // new, or made where a released one was
         entry.name = std::string(kind) + '#' + std::to_string(++numbers[kind]);
         entry.references = 0;
+        GiveName(object, entry.name);
     }
     ++entry.references;
 }
@@ -26,15 +29,6 @@ void ObjectTable::Released(const void* object)
 }
 
 bool ObjectTable::Knows(const void* object) const { return entries.count(object) != 0; }
-
-std::string ObjectTable::Name(const void* object) const
-{
-    if (object == nullptr) {
-        return "null";
-    }
-    const auto found = entries.find(object);
-    return found != entries.end() ? found->second.name : "other";
-}
 
 std::map<std::string, int> ObjectTable::Held() const
 {

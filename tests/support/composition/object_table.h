@@ -15,7 +15,6 @@ public:
     void Released(const void* object);
 
     bool Knows(const void* object) const;
-    std::string Name(const void* object) const; // "null", or "other" for an unknown one
 
     // The references that the module still holds, by object.
     std::map<std::string, int> Held() const;

@@ -3,7 +3,6 @@
 
 #include "support/composition/method_hook.h"
 #include "support/composition/swap_chain.h"
-#include "support/import_entry.h"
 
 namespace zq::LM::test {
 
@@ -12,16 +11,13 @@ namespace {
 ULONG STDMETHODCALLTYPE AddRefHook(IUnknown* self)
 {
     CallScope scope(LUMORA_CALLER, self, "AddRef");
-    using Original = ULONG(STDMETHODCALLTYPE*)(IUnknown*);
-    return scope.Added(reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&IUnknown::AddRef>()))(self));
+    return scope.Added(MethodSlot<&IUnknown::AddRef>::Real(self));
 }
 
 ULONG STDMETHODCALLTYPE ReleaseHook(IUnknown* self)
 {
     CallScope scope(LUMORA_CALLER, self, "Release");
-    using Original = ULONG(STDMETHODCALLTYPE*)(IUnknown*);
-    return scope.Released(
-        reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&IUnknown::Release>()))(self));
+    return scope.Released(MethodSlot<&IUnknown::Release>::Real(self));
 }
 
 // The system lacks this one: its slot leads to the stand-in's swap chain.
@@ -62,33 +58,28 @@ using TakesText = void (ID2D1RenderTarget::*)(const WCHAR*, UINT, IDWriteTextFor
 void WatchReferences(IUnknown* object)
 {
     MethodHook<"QueryInterface", static_cast<AsksById>(&IUnknown::QueryInterface)>::Patch(object);
-    PatchSlot(object, SlotOf<&IUnknown::AddRef>(), AsAddress(AddRefHook));
-    PatchSlot(object, SlotOf<&IUnknown::Release>(), AsAddress(ReleaseHook));
+    MethodSlot<&IUnknown::AddRef>::Hook(object, AddRefHook);
+    MethodSlot<&IUnknown::Release>::Hook(object, ReleaseHook);
 }
 
-template <MethodName Name, auto Method>
-using DrawingHook = MethodHook<Name, Method, WithoutTarget::IsLeftOut>;
+template <FixedText Name, auto Method> using DrawingHook = MethodHook<Name, Method, WithoutTarget::IsLeftOut>;
 
 HRESULT STDMETHODCALLTYPE EndDrawHook(ID2D1RenderTarget* self, D2D1_TAG* tag1, D2D1_TAG* tag2)
 {
-    using Original = HRESULT(STDMETHODCALLTYPE*)(ID2D1RenderTarget*, D2D1_TAG*, D2D1_TAG*);
     CallScope scope(LUMORA_CALLER, self, "EndDraw");
-    const auto original =
-        reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&ID2D1RenderTarget::EndDraw>()));
     scope.Arguments(tag1, tag2);
     if (const auto chosen = scope.Chosen()) {
         return scope.Result(*chosen);
     }
-    const HRESULT result = original(self, tag1, tag2);
+    const HRESULT result = MethodSlot<&ID2D1RenderTarget::EndDraw>::Real(self, tag1, tag2);
     return scope.Result(LacksTarget(self) ? D2DERR_WRONG_STATE : result);
 }
 
 void STDMETHODCALLTYPE SetTargetHook(ID2D1DeviceContext* self, ID2D1Image* target)
 {
-    using Original = void(STDMETHODCALLTYPE*)(ID2D1DeviceContext*, ID2D1Image*);
     CallScope scope(LUMORA_CALLER, self, "SetTarget");
     scope.Arguments(target);
-    reinterpret_cast<Original>(OriginalOfSlot(self, SlotOf<&ID2D1DeviceContext::SetTarget>()))(self, target);
+    MethodSlot<&ID2D1DeviceContext::SetTarget>::Real(self, target);
     NoteTarget(self, target);
 }
 
@@ -109,7 +100,7 @@ void WatchDrawing(ID2D1RenderTarget* object)
     MethodHook<"SetTextAntialiasMode", &Target::SetTextAntialiasMode>::Patch(object);
     MethodHook<"BeginDraw", &Target::BeginDraw>::Patch(object);
     MethodHook<"Flush", &Target::Flush>::Patch(object);
-    PatchSlot(object, SlotOf<&Target::EndDraw>(), AsAddress(EndDrawHook));
+    MethodSlot<&Target::EndDraw>::Hook(object, EndDrawHook);
 }
 
 } // namespace
@@ -135,8 +126,7 @@ const char* Watch(IDXGIDevice* object)
 const char* Watch(IDXGIFactory2* object)
 {
     WatchReferences(object);
-    PatchSlot(object, SlotOf<&IDXGIFactory2::CreateSwapChainForComposition>(),
-              AsAddress(CreateSwapChainHook));
+    MethodSlot<&IDXGIFactory2::CreateSwapChainForComposition>::Hook(object, CreateSwapChainHook);
     return "DxgiFactory";
 }
 
@@ -173,7 +163,7 @@ const char* Watch(ID2D1DeviceContext* object)
     WatchDrawing(object);
     MethodHook<"CreateBitmapFromDxgiSurface",
                static_cast<TakesSurface>(&ID2D1DeviceContext::CreateBitmapFromDxgiSurface)>::Patch(object);
-    PatchSlot(object, SlotOf<&ID2D1DeviceContext::SetTarget>(), AsAddress(SetTargetHook));
+    MethodSlot<&ID2D1DeviceContext::SetTarget>::Hook(object, SetTargetHook);
     NoteTarget(object, nullptr);
     return "DeviceContext";
 }

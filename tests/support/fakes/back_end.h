@@ -2,7 +2,8 @@
 #pragma once
 
 #include "render/drawing_lib.h"
-#include "support/system_calls.h"
+#include "support/hook/call_log.h"
+#include "support/hook/show.h"
 
 #include <functional>
 #include <string>
@@ -12,8 +13,8 @@ namespace zq::LM::test {
 
 class FakeBackEnd final : public DrawingLib {
 public:
-    explicit FakeBackEnd(int place) : prefix(std::to_string(place) + ": ") {}
-    ~FakeBackEnd() override { AddLine(prefix + "destroyed"); }
+    FakeBackEnd(int place, CallLog& log) : prefix(std::to_string(place) + ": "), log(log) {}
+    ~FakeBackEnd() override { log.AddLine(prefix + "destroyed"); }
 
     bool InitTransparentWindow(HWND window, unsigned colorKey) override
     {
@@ -58,11 +59,12 @@ private:
         std::string line = prefix + name + '(';
         [[maybe_unused]] const char* separator = "";
         ((line += separator + Show(values), separator = ", "), ...);
-        AddLine(line + ')');
+        log.AddLine(line + ')');
         return true;
     }
 
     std::string prefix;
+    CallLog& log;
 };
 
 } // namespace zq::LM::test

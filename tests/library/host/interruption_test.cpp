@@ -1,0 +1,228 @@
+// Every call of the library in which code of the host can run, and everything that the host may do there.
+#include "library/host/interrupting_host.h"
+#include "platform/win32/gdiplus_flat.h"
+
+#include <commdlg.h>
+#include <shellapi.h>
+
+#include <string_view>
+#include <utility>
+
+namespace zq::LM::test {
+
+namespace {
+
+bool IsOfLibrary(HWND window)
+{
+    wchar_t name[64]{};
+    GetClassNameW(window, name, 64);
+    const std::wstring_view text = name;
+    return text.starts_with(L"Lumora Window Class_") || text == L"#32770";
+}
+
+} // namespace
+
+class Interruption : public InterruptingHost {
+public:
+    // The system's calls in which host code runs.
+    void CreateWindows() { Interrupt<"CreateWindowExW">(CreateWindowExW); }
+    void DestroyWindows() { Interrupt<"DestroyWindow">(::DestroyWindow); }
+    void MoveWindows() { Interrupt<"SetWindowPos">(SetWindowPos); }
+    void StyleWindows() { Interrupt<"SetWindowLongW">(SetWindowLongW); }
+    void LayerWindows() { Interrupt<"SetLayeredWindowAttributes">(SetLayeredWindowAttributes); }
+    void BeginPaints() { Interrupt<"BeginPaint">(BeginPaint); }
+    void EndPaints() { Interrupt<"EndPaint">(EndPaint); }
+    void NotifyShell() { Interrupt<"Shell_NotifyIconW">(Shell_NotifyIconW); }
+    void ComeForward() { Interrupt<"SetForegroundWindow">(SetForegroundWindow); }
+    void OpenMenus() { Interrupt<"TrackPopupMenu">(TrackPopupMenu); }
+    void DestroyMenus() { Interrupt<"DestroyMenu">(::DestroyMenu); }
+    void AskForFiles() { Interrupt<"GetSaveFileNameA">(GetSaveFileNameA); }
+    void CreateDialogs() { Interrupt<"CreateDialogParamW">(CreateDialogParamW); }
+    void SendMessages() { Interrupt<"SendMessageW">(::SendMessageW); }
+    void EndDialogs() { Interrupt<"EndDialog">(EndDialog); }
+    void MakeDevices() { Interrupt<"D3D11CreateDevice">(D3D11CreateDevice); }
+    void DrawLines() { Interrupt<"GdipDrawLineI">(Gdiplus::DllExports::GdipDrawLineI); }
+    void WriteLog() { Interrupt<"OutputDebugStringW">(OutputDebugStringW); }
+
+protected:
+    // What would wait for a person, or reach the shell, is answered; a test may put an interruption on top.
+    Interruption()
+    {
+        calls.Answer<"Shell_NotifyIconW">(Shell_NotifyIconW, [](auto...) { return TRUE; });
+        calls.Answer<"TrackPopupMenu">(TrackPopupMenu, [](auto...) { return TRUE; });
+        calls.Answer<"GetSaveFileNameA">(GetSaveFileNameA, [](auto...) { return FALSE; });
+        calls.Answer<"SetForegroundWindow">(SetForegroundWindow, [](auto...) { return TRUE; });
+        Select(ChooseGDI);
+    }
+
+    // Lives, interrupted once at each call in turn, until there is none left to interrupt.
+    void InterruptEachCall(Moment moment, const Action& action);
+};
+
+void Interruption::InterruptEachCall(Moment moment, const Action& action)
+{
+    constexpr unsigned Plenty = 200;
+    for (unsigned number = 1; number < Plenty && !HasFailure(); ++number) {
+        SCOPED_TRACE(action.name + std::string(" in call ") + std::to_string(number));
+        Select(ChooseGDI);
+        KeepFreedMemory();
+        Arm(moment, number, [this, &action] { (this->*action.run)(); });
+        Live();
+        const bool wasInterrupted = HasFired();
+        ExpectIntact();
+        if (!wasInterrupted) {
+            EXPECT_GT(number, 1U) << "the call is never made";
+            return;
+        }
+    }
+}
+
+struct Call {
+    const char* name;
+    void (Interruption::*interrupt)();
+};
+
+class EachCall : public Interruption, public testing::WithParamInterface<Call> {};
+
+TEST_P(EachCall, MayBeInterruptedByAnything)
+{
+    (this->*GetParam().interrupt)();
+    for (const Action& action : Actions) {
+        for (const Moment moment : {Moment::Before, Moment::After}) {
+            InterruptEachCall(moment, action);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, EachCall,
+                         testing::Values(Call{"CreateWindowExW", &Interruption::CreateWindows},
+                                         Call{"DestroyWindow", &Interruption::DestroyWindows},
+                                         Call{"SetWindowPos", &Interruption::MoveWindows},
+                                         Call{"SetWindowLongW", &Interruption::StyleWindows},
+                                         Call{"SetLayeredWindowAttributes", &Interruption::LayerWindows},
+                                         Call{"BeginPaint", &Interruption::BeginPaints},
+                                         Call{"EndPaint", &Interruption::EndPaints},
+                                         Call{"Shell_NotifyIconW", &Interruption::NotifyShell},
+                                         Call{"SetForegroundWindow", &Interruption::ComeForward},
+                                         Call{"TrackPopupMenu", &Interruption::OpenMenus},
+                                         Call{"GetSaveFileNameA", &Interruption::AskForFiles},
+                                         Call{"CreateDialogParamW", &Interruption::CreateDialogs},
+                                         Call{"SendMessageW", &Interruption::SendMessages},
+                                         Call{"EndDialog", &Interruption::EndDialogs},
+                                         Call{"D3D11CreateDevice", &Interruption::MakeDevices},
+                                         Call{"GdipDrawLineI", &Interruption::DrawLines}),
+                         [](const auto& each) { return std::string(each.param.name); });
+
+// A handler of the debugger's output is host code as well. There are many lines, so one moment of each is
+// enough.
+TEST_F(Interruption, EachLineOfTheLogMayBeInterruptedByTheInstancesEnd)
+{
+    WriteLog();
+    InterruptEachCall(Moment::After, Actions.front());
+}
+
+// The messages of the library's windows, which a hook or a subclass of the host sees before the library does.
+class EachMessage : public Interruption, public testing::WithParamInterface<UINT> {
+protected:
+    EachMessage()
+    {
+        g_current = this;
+        hook = SetWindowsHookExW(WH_CALLWNDPROC, Hook_, nullptr, GetCurrentThreadId());
+    }
+    ~EachMessage() override
+    {
+        UnhookWindowsHookEx(hook);
+        g_current = nullptr;
+    }
+
+private:
+    static LRESULT CALLBACK Hook_(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (sent.message == GetParam() && IsOfLibrary(sent.hwnd)) {
+            g_current->Reach(Moment::Before);
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    inline static EachMessage* g_current = nullptr;
+    HHOOK hook;
+};
+
+TEST_P(EachMessage, MayBeInterruptedByAnything)
+{
+    for (const Action& action : Actions) {
+        InterruptEachCall(Moment::Before, action);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Messages, EachMessage,
+                         testing::Values(WM_NCCREATE, WM_CREATE, WM_WINDOWPOSCHANGED, WM_SHOWWINDOW,
+                                         WM_STYLECHANGED, WM_ERASEBKGND, WM_PAINT, WM_INITDIALOG,
+                                         WM_SYSCOMMAND, WM_DESTROY, WM_NCDESTROY),
+                         [](const auto& each) { return "Number" + std::to_string(each.param); });
+
+// The plainest case, without any hook: a window of the host's that ends the overlay when it loses the
+// activation.
+class HostWindow : public Interruption {
+protected:
+    HostWindow()
+    {
+        g_action = nullptr;
+        window = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 60, 180, 120,
+                                 nullptr, nullptr, nullptr, nullptr);
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure_));
+        SetActiveWindow(window);
+    }
+    ~HostWindow() override
+    {
+        g_action = nullptr;
+        ::DestroyWindow(window);
+    }
+
+    // When the host's window has lost the activation, once.
+    void Await(std::function<void()> action) { g_action = std::move(action); }
+    static bool HasHappened() { return !g_action; }
+
+    HWND window;
+
+private:
+    static LRESULT CALLBACK Procedure_(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == WM_ACTIVATE && LOWORD(wParam) == WA_INACTIVE && g_action) {
+            std::exchange(g_action, nullptr)();
+        }
+        return DefWindowProcW(handle, message, wParam, lParam);
+    }
+
+    inline static std::function<void()> g_action;
+};
+
+TEST_F(HostWindow, MayEndTheInstanceWhenTheDialogTakesTheActivation)
+{
+    for (const Action& action : Actions) {
+        SCOPED_TRACE(action.name);
+        KeepFreedMemory();
+        const HWND overlay = library.Create();
+        SetActiveWindow(window);
+        Await([this, &action] { (this->*action.run)(); });
+        SendMessageW(overlay, WM_COMMAND, SettingsCommand, 0);
+        EXPECT_TRUE(HasHappened());
+        ExpectIntact();
+    }
+}
+
+TEST_F(HostWindow, MayEndTheInstanceWhenTheOverlayTakesTheActivation)
+{
+    for (const Action& action : Actions) {
+        SCOPED_TRACE(action.name);
+        KeepFreedMemory();
+        SetActiveWindow(window);
+        Await([this, &action] { (this->*action.run)(); });
+        CheckHandle(library.Create());
+        EXPECT_TRUE(HasHappened());
+        ExpectIntact();
+    }
+}
+
+} // namespace zq::LM::test

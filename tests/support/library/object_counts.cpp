@@ -1,0 +1,121 @@
+// Counts what this process holds of the system's objects.
+#include "support/library/object_counts.h"
+
+#include <winternl.h>
+
+#include <cstdint>
+#include <stdexcept>
+
+namespace zq::LM::test {
+
+namespace {
+
+// Functions of the system's lowest library, which has no import library everywhere.
+template <typename Function> Function* LowestLibrary(const char* name)
+{
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name)));
+}
+
+struct GdiTableEntry {
+    std::uint64_t object;
+    std::uint16_t processId;
+    std::uint16_t padding;
+    std::uint16_t unique;
+    std::uint16_t type; // 0 for a free place
+    std::uint64_t userPointer;
+};
+static_assert(sizeof(GdiTableEntry) == 24);
+
+// The table that every process sees in its environment block.
+std::size_t CountGdiTable()
+{
+    constexpr std::size_t TableInBlock = 0xF8;
+    constexpr std::size_t Places = 65536;
+    const auto* block = static_cast<const char*>(LowestLibrary<void*()>("RtlGetCurrentPeb")());
+    const auto* table = *reinterpret_cast<const GdiTableEntry* const*>(block + TableInBlock);
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < Places; ++i) {
+        count += (table[i].type & 0xFF) != 0 ? 1 : 0;
+    }
+    return count;
+}
+
+struct SystemHandle {
+    ULONG ownerProcess;
+    BYTE objectType;
+    BYTE flags;
+    USHORT value;
+    PVOID object;
+    ULONG access;
+};
+
+struct SystemHandles {
+    ULONG count;
+    SystemHandle handles[1];
+};
+
+std::size_t CountSystemHandles()
+{
+    constexpr auto HandleInformation = static_cast<SYSTEM_INFORMATION_CLASS>(16);
+    constexpr NTSTATUS TooShort = static_cast<NTSTATUS>(0xC0000004);
+    const auto query = LowestLibrary<decltype(NtQuerySystemInformation)>("NtQuerySystemInformation");
+    std::vector<char> buffer(1 << 16);
+    ULONG needed = 0;
+    NTSTATUS status = TooShort;
+    while ((status = query(HandleInformation, buffer.data(), static_cast<ULONG>(buffer.size()), &needed)) ==
+           TooShort) {
+        buffer.resize(buffer.size() * 2);
+    }
+    if (status != 0) {
+        throw std::runtime_error("the system's handles cannot be listed");
+    }
+    const auto* list = reinterpret_cast<const SystemHandles*>(buffer.data());
+    std::size_t count = 0;
+    for (ULONG i = 0; i < list->count; ++i) {
+        count += list->handles[i].ownerProcess == GetCurrentProcessId() ? 1 : 0;
+    }
+    return count;
+}
+
+struct WindowSearch {
+    const std::wstring& prefix;
+    std::vector<HWND> found;
+};
+
+BOOL CALLBACK OnWindow(HWND window, LPARAM parameter)
+{
+    auto& search = *reinterpret_cast<WindowSearch*>(parameter);
+    wchar_t name[256] = {};
+    GetClassNameW(window, name, 256);
+    if (std::wstring(name).starts_with(search.prefix)) {
+        search.found.push_back(window);
+    }
+    return TRUE;
+}
+
+} // namespace
+
+// Windows counts for us; Wine answers 0 there.
+std::size_t GdiObjects()
+{
+    GdiFlush();
+    const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    return counted != 0 ? counted : CountGdiTable();
+}
+
+std::size_t KernelHandles()
+{
+    DWORD counted = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &counted);
+    return counted != 0 ? counted : CountSystemHandles();
+}
+
+std::vector<HWND> WindowsOfClass(const std::wstring& prefix)
+{
+    WindowSearch search{prefix, {}};
+    EnumThreadWindows(GetCurrentThreadId(), OnWindow, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+} // namespace zq::LM::test
