@@ -1,5 +1,4 @@
 // What one creation of the overlay window asks of the system, and in which order it says so.
-#include "platform/win32/gdiplus_flat.h"
 #include "support/library/window_test.h"
 
 #include <string>
@@ -89,30 +88,6 @@ TEST_F(CreationTest, EveryWindowHasAClassOfANewNumber)
     EXPECT_EQ(className, L"Lumora Window Class_00001");
     library.Create();
     EXPECT_EQ(className, L"Lumora Window Class_00002");
-}
-
-TEST_F(CreationTest, TheClassNumberIsCutToSixteenBits)
-{
-    constexpr unsigned Windows = 65'536;
-    // What each instance costs otherwise.
-    const HMODULE module = library.Module();
-    Hook<"GetFileVersionInfoSizeW", decltype(GetFileVersionInfoSizeW)> version(module);
-    version.Fail(0);
-    Hook<"GdiplusStartup", decltype(Gdiplus::GdiplusStartup)> start(module);
-    start.Answer([](auto...) { return Gdiplus::Ok; });
-    const Hook<"GdiplusShutdown", decltype(Gdiplus::GdiplusShutdown)> end(module, [](ULONG_PTR) {});
-    std::wstring refused;
-    const Hook<"RegisterClassExW", decltype(RegisterClassExW)> classes(
-        module, [&](const WNDCLASSEXW* description) {
-            refused = description->lpszClassName;
-            return ATOM{0};
-        });
-    for (unsigned i = 0; i < Windows; ++i) {
-        library.Create();
-    }
-    EXPECT_EQ(refused, L"Lumora Window Class_65535");
-    library.Create();
-    EXPECT_EQ(refused, L"Lumora Window Class_00000");
 }
 
 TEST_F(CreationTest, WindowsOfTheOtherTypesArePlainTopmostToolWindows)
