@@ -123,6 +123,9 @@ struct Hook<Function, Made, Result(Arguments...)> {
 template <FixedText Function, FixedText Made, typename Signature>
 std::unique_ptr<ImportPatch> Patch(const char* dll)
 {
+    if (FindImport(GetModuleHandleW(nullptr), Function.text) == nullptr) {
+        return nullptr; // what the program does not import it does not call
+    }
     using Recorded = Hook<Function, Made, Signature>;
     auto patch = std::make_unique<ImportPatch>(GetModuleHandleW(nullptr), dll, Function.text,
                                                AsAddress(Recorded::Call));

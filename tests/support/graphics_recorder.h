@@ -13,8 +13,7 @@ namespace zq::LM::test {
 
 // Calls go on to the system. Each is kept as a text such as "SelectObject(dc, brush) = previous": whole
 // numbers are decimal, unsigned ones (colours, raster operations) hexadecimal; handles have the names that a
-// test gave them or that of what they are, "other" for the rest. One at a time; the test program must import
-// every call.
+// test gave them or that of what they are, "other" for the rest. One at a time.
 class GraphicsRecorder {
 public:
     GraphicsRecorder();
