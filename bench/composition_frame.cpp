@@ -5,8 +5,9 @@
 #include "support/composition/composition_stand_in.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <iomanip>
+#include <iostream>
 #include <vector>
 
 namespace {
@@ -103,9 +104,9 @@ void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& comp
         composition.KeepCalls(true);
         parts.push_back(SplitFrame(window, composition));
     }
-    std::printf("| %d | %.2f | %.2f | %.2f | %.2f |\n", segments, Median(whole),
-                MedianOf(parts, &FrameCost::drawing), MedianOf(parts, &FrameCost::present),
-                MedianOf(parts, &FrameCost::rest));
+    std::cout << std::fixed << std::setprecision(2) << "| " << segments << " | " << Median(whole) << " | "
+              << MedianOf(parts, &FrameCost::drawing) << " | " << MedianOf(parts, &FrameCost::present)
+              << " | " << MedianOf(parts, &FrameCost::rest) << " |" << std::endl;
     library.destroy();
     MSG message = {};
     PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
@@ -115,22 +116,22 @@ void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& comp
 
 int main(int count, char** arguments)
 {
-    const int frames = count > 1 ? std::atoi(arguments[1]) : UsualFrames;
+    const int frames = count > 1 ? static_cast<int>(std::strtol(arguments[1], nullptr, 10)) : UsualFrames;
     if (count > 2 || frames < 1) {
-        std::fputs("Usage: lumora_composition_frame [FRAMES]\n", stderr);
+        std::cerr << "Usage: lumora_composition_frame [FRAMES]\n";
         return 2;
     }
     try {
         const lumora::replay::InkLibrary library(lumora::replay::LibraryBesideProgram());
         CompositionStandIn composition(library.Module());
         composition.Show(false);
-        std::puts("| segments | frame, ms | Direct2D, ms | present, ms | the rest, recorded, ms "
-                  "|\n|---|---|---|---|---|");
+        std::cout << "| segments | frame, ms | Direct2D, ms | present, ms | the rest, recorded, ms |\n"
+                     "|---|---|---|---|---|\n";
         for (const int segments : {1, 30, 300, 1000}) {
             Measure(library, composition, segments, frames);
         }
     } catch (const std::exception& failure) {
-        std::fprintf(stderr, "composition_frame: %s\n", failure.what());
+        std::cerr << "composition_frame: " << failure.what() << '\n';
         return 1;
     }
     return 0;

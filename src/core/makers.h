@@ -15,9 +15,9 @@ namespace zq::LM {
 // Plain functions, so that a program which links the Core can bring parts of its own. Each gives null for a
 // part that cannot be had; the Core works on without it.
 struct Makers {
-    Canvas::BackEndMakers backEnds;
-    Owned<ParamsView> (*paramsView)(HWND parent, HMODULE module, Params* record);
-    std::unique_ptr<BrushDataServer> (*brushDataServer)(std::uint16_t port);
+    Canvas::BackEndMakers backEnds{};
+    Owned<ParamsView> (*paramsView)(HWND parent, HMODULE module, Params* record) = nullptr;
+    std::unique_ptr<BrushDataServer> (*brushDataServer)(std::uint16_t port) = nullptr;
 
     // Off in the library, where nothing turns it on: the server asks nobody who they are.
     bool useBrushDataServer = false;

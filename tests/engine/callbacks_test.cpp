@@ -162,7 +162,7 @@ TEST_F(Callbacks, TextCallbackIsNeverCalled)
 TEST(CallbackLifetime, EndsWithTheNextSetOrInReverseOrderOfTheEnginesMembers)
 {
     std::vector<std::string> ended;
-    const auto mark = [&ended](std::string name) {
+    const auto mark = [&ended](const std::string& name) {
         return std::shared_ptr<void>(nullptr, [&ended, name](void*) { ended.push_back(name); });
     };
     {

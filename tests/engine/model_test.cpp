@@ -65,7 +65,7 @@ public:
     }
 
     // Kinds of calls and lines that any pair came by.
-    static const std::set<std::string>& Met() { return met; }
+    static const std::set<std::string>& Met() { return g_met; }
 
 private:
     static std::vector<std::array<std::uint32_t, 9>> Words(const std::vector<PenData>& samples)
@@ -89,10 +89,10 @@ private:
     void Note(const Calls& made, const std::vector<std::string>& written)
     {
         for (const Call& call : made) {
-            met.insert(call.name);
+            g_met.insert(call.name);
         }
         for (const std::string& line : written) {
-            met.insert(line.substr(0, line.find(" : ")));
+            g_met.insert(line.substr(0, line.find(" : ")));
         }
     }
 
@@ -151,7 +151,7 @@ private:
         reference.ClearLivePenData();
     }
 
-    inline static std::set<std::string> met;
+    inline static std::set<std::string> g_met;
     RecordedCalls calls;
     Drawing drawing;
     ReferenceEngine reference;

@@ -14,17 +14,19 @@ HMODULE Program() { return GetModuleHandleW(nullptr); }
 
 } // namespace
 
-WorkerCalls::WorkerCalls() : accept(Program()), receive(Program()), close(Program())
+WorkerCalls::WorkerCalls() : state(*new State) {}
+
+WorkerCalls::State::State() : accept(Program()), receive(Program()), close(Program())
 {
     accept.Before([this](SOCKET socket, sockaddr*, int*) {
-        if (IsWorker_()) {
+        if (IsWorker()) {
             listener = socket;
             ++accepts;
         }
     });
-    receive.Before([this](SOCKET, char*, int, int) { receives += IsWorker_() ? 1 : 0; });
+    receive.Before([this](SOCKET, char*, int, int) { receives += IsWorker() ? 1 : 0; });
     close.Before([this](SOCKET socket) {
-        closes += IsWorker_() ? 1 : 0;
+        closes += IsWorker() ? 1 : 0;
         const std::lock_guard lock(mutex);
         closed.push_back(socket);
     });
@@ -32,8 +34,8 @@ WorkerCalls::WorkerCalls() : accept(Program()), receive(Program()), close(Progra
 
 std::vector<SOCKET> WorkerCalls::Closed() const
 {
-    const std::lock_guard lock(mutex);
-    return closed;
+    const std::lock_guard lock(state.mutex);
+    return state.closed;
 }
 
 void WorkerCalls::WaitFor_(const std::atomic<unsigned>& counter, unsigned count, const char* calls)

@@ -18,31 +18,37 @@ class WorkerCalls {
 public:
     WorkerCalls();
 
-    unsigned Accepts() const { return accepts; }
-    unsigned Receives() const { return receives; }
-    unsigned Closes() const { return closes; }
+    unsigned Accepts() const { return state.accepts; }
+    unsigned Receives() const { return state.receives; }
+    unsigned Closes() const { return state.closes; }
 
     // Fail the test when it does not come to so many.
-    void WaitForAccepts(unsigned count) const { WaitFor_(accepts, count, "accepts"); }
-    void WaitForReceives(unsigned count) const { WaitFor_(receives, count, "receives"); }
+    void WaitForAccepts(unsigned count) const { WaitFor_(state.accepts, count, "accepts"); }
+    void WaitForReceives(unsigned count) const { WaitFor_(state.receives, count, "receives"); }
 
-    SOCKET Listener() const { return listener; } // what the last accept was called on
-    std::vector<SOCKET> Closed() const;          // by hand, on any thread
+    SOCKET Listener() const { return state.listener; } // what the last accept was called on
+    std::vector<SOCKET> Closed() const;                // by hand, on any thread
 
 private:
-    static void WaitFor_(const std::atomic<unsigned>& counter, unsigned count, const char* calls);
-    bool IsWorker_() const { return GetCurrentThreadId() != testThread; }
+    struct State {
+        State();
+        bool IsWorker() const { return GetCurrentThreadId() != testThread; }
 
-    const DWORD testThread = GetCurrentThreadId();
-    std::atomic<unsigned> accepts = 0;
-    std::atomic<unsigned> receives = 0;
-    std::atomic<unsigned> closes = 0;
-    std::atomic<SOCKET> listener = INVALID_SOCKET;
-    mutable std::mutex mutex;
-    std::vector<SOCKET> closed;
-    Hook<"accept", decltype(::accept)> accept;
-    Hook<"recv", decltype(::recv)> receive;
-    Hook<"closesocket", decltype(::closesocket)> close;
+        const DWORD testThread = GetCurrentThreadId();
+        std::atomic<unsigned> accepts = 0;
+        std::atomic<unsigned> receives = 0;
+        std::atomic<unsigned> closes = 0;
+        std::atomic<SOCKET> listener = INVALID_SOCKET;
+        std::mutex mutex;
+        std::vector<SOCKET> closed;
+        Hook<"accept", decltype(::accept)> accept;
+        Hook<"recv", decltype(::recv)> receive;
+        Hook<"closesocket", decltype(::closesocket)> close;
+    };
+
+    static void WaitFor_(const std::atomic<unsigned>& counter, unsigned count, const char* calls);
+
+    State& state; // never freed: a worker may be inside of a hook when its test ends
 };
 
 } // namespace zq::LM::test

@@ -170,9 +170,9 @@ private:
         }
     }
 
-    void** entry;
+    void** entry = nullptr;
     Pointer original = nullptr;
-    CallLog* log;
+    CallLog* log = nullptr;
     Function answer;
     Watcher before;
     Watcher after;
@@ -181,7 +181,7 @@ private:
     Kept failure{};
     std::atomic<std::size_t> count = 0;
 
-    Hook* below; // the hook of the same function that was there before
+    Hook* below = nullptr; // the hook of the same function that was there before
 
     inline static Hook* g_newest = nullptr;
 };
