@@ -104,6 +104,7 @@ TEST_F(BrushData, NothingOrANameThatIsNoKindsChangesNothing)
         ExpectNothingHappens(Message(name, 4, {1, 2, 3, 4}));
     }
     ExpectNothingHappens({'I', 'n', 'k', 'C', 'o', 'l', 'o', 'r', 0, 4, 0, 0, 0, 1, 2, 3, 4});
+    ExpectNothingHappens(Message("Ink", 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
 TEST_F(BrushData, BothBytesOfACodeUnitCount)

@@ -42,7 +42,8 @@ TEST(LimitedBrushSize, LiesBetweenTheLowerBoundAnd200OrAtAHigherBound)
     EXPECT_EQ(LimitedBrushSize(200, 1), 200U);
     EXPECT_EQ(LimitedBrushSize(201, 1), 200U);
     EXPECT_EQ(LimitedBrushSize(250, 300), 300U);
-    EXPECT_EQ(LimitedBrushSize(301, 300), 200U); // not below the bound, so the upper limit holds
+    EXPECT_EQ(LimitedBrushSize(300, 300), 200U); // not below the bound, so the upper limit holds
+    EXPECT_EQ(LimitedBrushSize(301, 300), 200U);
 }
 
 TEST(OtherLimits, Are1000MillisecondsAnd120FramesPerSecond)
