@@ -43,6 +43,7 @@ public:
     void MakeDevices() { Interrupt<"D3D11CreateDevice">(D3D11CreateDevice); }
     void DrawLines() { Interrupt<"GdipDrawLineI">(Gdiplus::DllExports::GdipDrawLineI); }
     void WriteLog() { Interrupt<"OutputDebugStringW">(OutputDebugStringW); }
+    void TellVersions() { Interrupt<"OutputDebugStringA">(OutputDebugStringA); } // while a Core is made
 
 protected:
     // What would wait for a person, or reach the shell, is answered; a test may put an interruption on top.
@@ -119,6 +120,53 @@ TEST_F(Interruption, EachLineOfTheLogMayBeInterruptedByTheInstancesEnd)
 {
     WriteLog();
     InterruptEachCall(Moment::After, Actions.front());
+}
+
+// The host's last word counts, whatever it has interrupted.
+TEST_F(Interruption, AnInstanceThatIsMadeWhileAnotherIsBeingMadeIsTheOne)
+{
+    HWND inside = nullptr;
+    library.SetDebugLevel(1);
+    TellVersions();
+    Arm(Moment::Before, 1, [&] { inside = library.Create(); });
+    EXPECT_EQ(library.Create(), inside);
+    EXPECT_TRUE(HasFired());
+    EXPECT_EQ(library.GetWindowHandle(), inside);
+}
+
+TEST_F(Interruption, AnInstanceThatIsMadeWhileAnotherIsRebuiltIsTheOne)
+{
+    HWND inside = nullptr;
+    library.SetDebugLevel(1);
+    library.Create();
+    Choose(ChooseDirect2D);
+    TellVersions();
+    Arm(Moment::Before, 1, [&] { inside = library.Create(); });
+    InputStroke();
+    EXPECT_TRUE(HasFired());
+    EXPECT_EQ(library.GetWindowHandle(), inside);
+}
+
+TEST_F(Interruption, ASetUpThatHasLostItsInstanceTakesNoFurtherStep)
+{
+    StyleWindows();
+    calls.Record<"SetLayeredWindowAttributes">(SetLayeredWindowAttributes);
+    Arm(Moment::After, 1, [this] { library.Destroy(); });
+    library.Create();
+    EXPECT_TRUE(HasFired());
+    EXPECT_EQ(calls.Count("SetLayeredWindowAttributes"), 0U);
+}
+
+TEST_F(Interruption, AFrameThatHasLostItsInstanceIsNotShown)
+{
+    library.Create();
+    InputStroke();
+    DrawLines();
+    calls.Record<"BitBlt">(BitBlt);
+    Arm(Moment::After, 1, [this] { library.Destroy(); });
+    UpdateWindow(library.GetWindowHandle());
+    EXPECT_TRUE(HasFired());
+    EXPECT_EQ(calls.Count("BitBlt"), 0U);
 }
 
 // The messages of the library's windows, which a hook or a subclass of the host sees before the library does.

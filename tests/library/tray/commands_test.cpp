@@ -236,6 +236,20 @@ TEST_F(CommandsTest, ARebuildWhileTheDialogIsOpenIsHarmless)
     EXPECT_EQ(Marked(), (std::vector<UINT>{40013, 40021}));
 }
 
+TEST_F(CommandsTest, AWindowLeftWhileTheDialogIsOpenIsNotRepainted)
+{
+    CreateWithTray();
+    Command(ChooseDirect2D);
+    AnswerSaveDialog(FALSE);
+    whileDialogIsOpen = [this] {
+        InputStroke();
+        calls.Take();
+    };
+    RecordInvalidations();
+    Command(SaveCommand);
+    EXPECT_EQ(Invalidations(), 0U);
+}
+
 TEST_F(CommandsTest, AWindowClosedWhileTheDialogIsOpenIsNotRepainted)
 {
     CreateWithTray(Normal);

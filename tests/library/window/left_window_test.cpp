@@ -1,6 +1,8 @@
 // Windows that a change of the back-end leaves behind: cleared, quiet and harmless.
 #include "support/library/window_test.h"
 
+#include <thread>
+
 namespace zq::LM::test {
 
 class LeftWindowTest : public WindowTest {
@@ -147,6 +149,21 @@ TEST(UnloadedLibrary, StaysForAWindowThatWasLeft)
     EXPECT_NE(GetModuleHandleW(L"LumoraDLL.dll"), nullptr);
     ASSERT_TRUE(IsWindow(left));
     SendMessageW(left, WM_SETTINGCHANGE, 0, 0); // as a broadcast reaches every window
+    DestroyWindow(left);
+    EXPECT_FALSE(IsWindow(left));
+}
+
+TEST(UnloadedLibrary, StaysForAWindowThatAnotherThreadCannotDestroy)
+{
+    HWND left = nullptr;
+    {
+        const Library library;
+        const NoGraphicsDevice noDevice(library.Module());
+        left = library.Create();
+        std::thread([&library] { library.Destroy(); }).join();
+    }
+    ASSERT_NE(GetModuleHandleW(L"LumoraDLL.dll"), nullptr);
+    ASSERT_TRUE(IsWindow(left));
     DestroyWindow(left);
     EXPECT_FALSE(IsWindow(left));
 }
