@@ -20,8 +20,8 @@ HWND Core::CreateOverlayWindow()
         canvas.SetUpSurface();
     }
     if (!Lives()) {
-        DestroyWindow(
-            overlay.Handle()); // half made it would be an opaque sheet; most often it has gone already
+        // Half made it would be an opaque sheet; most often it has gone already.
+        DestroyWindow(overlay.Handle());
     }
     return Window();
 }

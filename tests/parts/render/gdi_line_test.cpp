@@ -1,34 +1,22 @@
 // The lines of the GDI back-end: what it asks of GDI+ and GDI, and the pixels that come of it.
-#include "render/gdi.h"
 #include "render/gdi_lines.h"
 
-#include "parts/render/drawing_calls.h"
-#include "support/screen/test_bitmap.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "parts/render/gdi_test.h"
 
 namespace zq::LM {
 
 namespace {
 
 using test::DrawingCalls;
+using test::Green;
 using test::Picture;
-using test::TestBitmap;
+using test::Red;
 using testing::Contains;
 using testing::ElementsAre;
 
-constexpr COLORREF Green = 0x00008000;
-constexpr COLORREF Red = 0x000000FF;
 constexpr unsigned OpaqueRed = 0xFF0000FF;
 
-class GdiLineTest : public testing::Test {
-protected:
-    GdiLineTest() { gdi.SetMemoryDC(bitmap.DC()); }
-
-    TestBitmap bitmap{120, 100, Green};
-    GDI gdi;
-};
+class GdiLineTest : public test::GdiTest {};
 
 // What DrawLine asks of the system, as one list.
 class GdiLineCallsTest : public GdiLineTest {

@@ -1,11 +1,5 @@
 // The text of the GDI back-end: a grey shadow below the text itself.
-#include "render/gdi.h"
-
-#include "parts/render/drawing_calls.h"
-#include "support/screen/test_bitmap.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "parts/render/gdi_test.h"
 
 #include <string>
 #include <vector>
@@ -15,18 +9,17 @@ namespace zq::LM {
 namespace {
 
 using test::DrawingCalls;
+using test::Green;
 using test::Picture;
-using test::TestBitmap;
+using test::Red;
 using testing::Contains;
 using testing::ElementsAre;
 
-constexpr COLORREF Green = 0x00008000;
 constexpr COLORREF Grey = 0x00C0C0C0;
-constexpr COLORREF Red = 0x000000FF;
 
-class GdiTextTest : public testing::Test {
+class GdiTextTest : public test::GdiTest {
 protected:
-    GdiTextTest() { gdi.SetMemoryDC(bitmap.DC()); }
+    GdiTextTest() : GdiTest(160, 60) {}
 
     std::vector<std::string> Draw(const wchar_t* text, int x, int y, unsigned colour)
     {
@@ -35,9 +28,6 @@ protected:
         gdi.DrawText(text, x, y, colour);
         return calls.Take();
     }
-
-    TestBitmap bitmap{160, 60, Green};
-    GDI gdi;
 };
 
 TEST_F(GdiTextTest, IsThreeGreyCopiesAndThenTheColour)

@@ -104,26 +104,28 @@ TEST(MemorySurfaceTest, MadeAgainReleasesTheOldOneFirst)
     EXPECT_THAT(made[4], testing::StartsWith("CreateCompatibleBitmap(*, 20, 90)"));
 }
 
-TEST(MemorySurfaceFailure, WithoutADeviceContextThereIsNoSurfaceAndNothingIsLeft)
+void ExpectNoSurface(DrawingCalls& calls, const testing::Matcher<const std::vector<std::string>&>& givenBack)
 {
     MemorySurface surface;
+    EXPECT_FALSE(surface.Create(TheScreen, 70, 30));
+    EXPECT_EQ(surface.DC(), nullptr);
+    EXPECT_THAT(calls.Take(), givenBack);
+}
+
+TEST(MemorySurfaceFailure, WithoutADeviceContextThereIsNoSurfaceAndNothingIsLeft)
+{
     DrawingCalls calls;
     calls.Record<"CreateCompatibleDC">(CreateCompatibleDC).Fail(nullptr);
-    surface.Create(TheScreen, 70, 30);
-    EXPECT_EQ(surface.DC(), nullptr);
-    EXPECT_THAT(calls.Take(), ElementsAre("CreateCompatibleDC(*)", "CreateCompatibleBitmap(*, 70, 30)",
-                                          "DeleteObject(bitmap)"));
+    ExpectNoSurface(calls, ElementsAre("CreateCompatibleDC(*)", "CreateCompatibleBitmap(*, 70, 30)",
+                                       "DeleteObject(bitmap)"));
 }
 
 TEST(MemorySurfaceFailure, WithoutABitmapThereIsNoSurfaceAndNothingIsLeft)
 {
-    MemorySurface surface;
     DrawingCalls calls;
     calls.Record<"CreateCompatibleBitmap">(CreateCompatibleBitmap).Fail(nullptr);
-    surface.Create(TheScreen, 70, 30);
-    EXPECT_EQ(surface.DC(), nullptr);
-    EXPECT_THAT(calls.Take(), ElementsAre("CreateCompatibleDC(*)", "CreateCompatibleBitmap(*, 70, 30)",
-                                          "DeleteDC(memory dc)"));
+    ExpectNoSurface(calls, ElementsAre("CreateCompatibleDC(*)", "CreateCompatibleBitmap(*, 70, 30)",
+                                       "DeleteDC(memory dc)"));
 }
 
 TEST(MemorySurfaceFailure, ALaterTryWorks)
@@ -150,26 +152,20 @@ TEST(MemorySurfaceFailure, WithoutABrushForTheKeyItIsTransparentAllTheSame)
 }
 
 // A surface that is not transparent would be shown as a black sheet.
-void ExpectNoSurface(DrawingCalls& calls)
-{
-    MemorySurface surface;
-    EXPECT_FALSE(surface.Create(TheScreen, 70, 30));
-    EXPECT_EQ(surface.DC(), nullptr);
-    EXPECT_THAT(calls.Take(), testing::IsSupersetOf({"DeleteDC(memory dc)", "DeleteObject(bitmap)"}));
-}
+const auto AllIsGivenBack = testing::IsSupersetOf({"DeleteDC(memory dc)", "DeleteObject(bitmap)"});
 
 TEST(MemorySurfaceFailure, ThatCannotBeFilledWithTheKeyIsNoSurface)
 {
     DrawingCalls calls;
     calls.Record<"PatBlt">(PatBlt).Fail(FALSE);
-    ExpectNoSurface(calls);
+    ExpectNoSurface(calls, AllIsGivenBack);
 }
 
 TEST(MemorySurfaceFailure, ThatCannotBeSelectedIsNoSurface)
 {
     DrawingCalls calls;
     calls.Record<"SelectObject">(SelectObject).Fail(nullptr);
-    ExpectNoSurface(calls);
+    ExpectNoSurface(calls, AllIsGivenBack);
 }
 
 TEST(MemorySurfaceFailure, AnOldSurfaceIsGoneAfterAFailedTry)
