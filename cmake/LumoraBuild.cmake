@@ -28,10 +28,13 @@ if(MSVC)
   add_compile_options(/utf-8 /permissive- /guard:cf)
   add_link_options(/guard:cf /DYNAMICBASE /NXCOMPAT /HIGHENTROPYVA)
 else()
+  # One commit gives the same bytes wherever the tree lies and whenever it is built.
+  add_compile_options(-fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>
+    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
   add_link_options(-fstack-protector-strong)
-  add_compile_options(-fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
   if(MINGW)
-    add_link_options(-static $<$<CONFIG:Release>:-s> -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+    set(lumoraStrip "$<$<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:LUMORA_SHIPPED>>>>:-s>")
+    add_link_options(-static ${lumoraStrip} -Wl,--dynamicbase,--nxcompat,--high-entropy-va,--no-insert-timestamp)
   endif()
 endif()
 
@@ -58,6 +61,25 @@ function(lumora_own_code target)
   endif()
 endfunction()
 
+# What goes to hosts keeps its debug symbols, in a file of its own beside it.
+function(lumora_shipped target)
+  set_target_properties(${target} PROPERTIES LUMORA_SHIPPED ON)
+  if(MINGW)
+    add_custom_command(TARGET ${target} POST_BUILD
+      COMMAND ${CMAKE_OBJCOPY} --only-keep-debug "$<TARGET_FILE:${target}>" "$<TARGET_FILE:${target}>.debug"
+      COMMAND ${CMAKE_OBJCOPY} --strip-all "--add-gnu-debuglink=$<TARGET_FILE:${target}>.debug" "$<TARGET_FILE:${target}>" VERBATIM)
+  endif()
+endfunction()
+
+# The sources of what goes to hosts are compiled with debug symbols, which change no instruction.
+function(lumora_with_symbols target)
+  if(MSVC)
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:/Zi>)
+  else()
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-g>)
+  endif()
+endfunction()
+
 # A room: a library of files of src/ that include each other and the headers of the rooms that they NEED, and nothing
 # else; the build fails where one does. A PORTABLE room keeps to the standard library, one of OBJECTS is linked whole. A
 # folder may hold more than one.
@@ -72,6 +94,7 @@ function(lumora_room name)
       add_library(${target} STATIC ${room_SOURCES})
     endif()
     lumora_own_code(${target})
+    lumora_with_symbols(${target})
   else()
     set(scope INTERFACE)
     add_library(${target} INTERFACE ${room_SOURCES})

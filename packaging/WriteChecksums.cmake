@@ -1,0 +1,10 @@
+# Lists the SHA-256 of every file of the package in a file of it, as sha256sum reads it.
+set(packed "${CPACK_TEMPORARY_INSTALL_DIRECTORY}")
+file(GLOB_RECURSE files RELATIVE "${packed}" "${packed}/*")
+list(SORT files)
+set(sums "")
+foreach(file IN LISTS files)
+  file(SHA256 "${packed}/${file}" sum)
+  string(APPEND sums "${sum}  ${file}\n")
+endforeach()
+file(WRITE "${packed}/SHA256SUMS" "${sums}")
