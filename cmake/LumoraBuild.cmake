@@ -30,7 +30,7 @@ if(MSVC)
 else()
   # One commit gives the same bytes wherever the tree lies and whenever it is built.
   add_compile_options(-fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>
-    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=." "-ffile-prefix-map=${PROJECT_BINARY_DIR}=./build")
   add_link_options(-fstack-protector-strong)
   if(MINGW)
     set(lumoraStrip "$<$<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:LUMORA_SHIPPED>>>>:-s>")
@@ -68,6 +68,8 @@ function(lumora_shipped target)
     add_custom_command(TARGET ${target} POST_BUILD
       COMMAND ${CMAKE_OBJCOPY} --only-keep-debug "$<TARGET_FILE:${target}>" "$<TARGET_FILE:${target}>.debug"
       COMMAND ${CMAKE_OBJCOPY} --strip-all "--add-gnu-debuglink=$<TARGET_FILE:${target}>.debug" "$<TARGET_FILE:${target}>" VERBATIM)
+  elseif(MSVC)
+    target_link_options(${target} PRIVATE /DEBUG /OPT:REF /OPT:ICF)
   endif()
 endfunction()
 

@@ -21,8 +21,15 @@
  * long creates the instance anew.
  *
  * Errors: nothing is reported but by the null handles of LM_Create and LM_GetWindowHandle. Without an
- * instance every function is harmless. An allocation that fails raises std::bad_alloc through the call; the
- * library stays usable.
+ * instance every function is harmless.
+ *
+ * Exceptions: a function that "may raise" lets std::bad_alloc through when memory runs out; the library
+ * stays usable. (In theory the four that read and write parameters or samples also raise std::system_error,
+ * when the system refuses a lock.) A host in C++ of the compiler that built the library catches them. To any
+ * other host, in C, in another language or from another compiler, they are structured exceptions of that
+ * compiler (GCC and clang 0x20474343, Visual C++ 0xE06D7363), which end the process unless an __except takes
+ * them; lumora/lumora.hpp does so, and throws an exception of the host's own. What raises nothing never does
+ * this.
  *
  * Log: each function writes a line to the debugger's output once the log level allows it (see
  * LM_SetDebugLevel). */
@@ -45,28 +52,27 @@ typedef struct HWND__* LM_WindowHandle;
  * the activation from the host's.
  *
  * Returns the overlay window's handle (an HWND that the library owns), or null when the window could not
- * be made; the instance then exists without a window. Raises std::bad_alloc when memory runs out; there is
- * then no instance. */
+ * be made; the instance then exists without a window. May raise; there is then no instance. */
 LM_WindowHandle LM_Create(void);
 
 /* Destroys the overlay window and the instance. Destroying the window posts WM_QUIT to the calling thread:
  * a host that goes on takes it out of its queue. Does nothing without an instance. Windows that a change
  * of the rendering back-end left behind stay, fully transparent, until the process ends. A window that
- * another thread made cannot be destroyed and stays likewise. */
+ * another thread made cannot be destroyed and stays likewise. Raises nothing. */
 void LM_Destroy(void);
 
 /* Copies the parameters that ink is drawn with into `params` (32 bytes, the host's own). Null is accepted and
  * ignored; without an instance the record is left as it is. What a person has changed in the settings dialog
  * is not in them before the next pen input: a host that gets, changes and sets a record in between undoes it.
- * LM_InputPenDataArray with a count of 0 brings the changes in first. */
+ * LM_InputPenDataArray with a count of 0 brings the changes in first. Raises nothing. */
 void LM_GetCopiedParams(LM_Params* params);
 
 /* Writes the sizes in bytes of LM_Params (32) and LM_PenData (36), so that a host in another language can
- * check its own layouts. Either pointer may be null. Works without an instance. */
+ * check its own layouts. Either pointer may be null. Works without an instance. Raises nothing. */
 void LM_GetElmSize(uint64_t* paramsSize, uint64_t* penDataSize);
 
 /* Returns the overlay window's handle, or null when there is no instance or no window. A change of the
- * back-end gives the instance a new window, so ask again rather than keep the handle. */
+ * back-end gives the instance a new window, so ask again rather than keep the handle. Raises nothing. */
 LM_WindowHandle LM_GetWindowHandle(void);
 
 /* Hands over `count` pen samples, oldest first, and asks the overlay to repaint. The samples are copied
@@ -74,8 +80,8 @@ LM_WindowHandle LM_GetWindowHandle(void);
  * drops the samples that are not drawn yet. End a stroke with a sample of pressure 0.
  *
  * A null array does nothing at all. A count of 0 applies the parameters and repaints. The first call after
- * a change of the back-end rebuilds the overlay instead and drops its samples. Raises std::bad_alloc when
- * memory runs out.
+ * a change of the back-end rebuilds the overlay instead and drops its samples. May raise: the samples are
+ * then dropped, and an overlay that could not be rebuilt is gone.
  *
  * Samples wait for the overlay's next paint. While it cannot paint (it has no window, or the thread does not
  * pump messages) they add up, 36 bytes each: a host that sees LM_GetWindowHandle give null calls LM_Create
@@ -89,7 +95,7 @@ void LM_InputPenDataArray(const LM_PenData* samples, uint64_t count);
  * payload: 40 bytes at the most. It then zeroes the beginning of the message, so that it is not applied
  * twice: as many bytes as the payload size in the message, plus the characters of the name, plus 5. The
  * buffer must hold the larger of the two and be writable; `size` is not looked at. Nothing is read or zeroed
- * without an instance, and nothing is zeroed of a message of no known kind. */
+ * without an instance, and nothing is zeroed of a message of no known kind. Raises nothing. */
 void LM_SetData_from_App(void* message, uint64_t size);
 
 /* Sets how much the library writes to the debugger's output: 0 nothing, 1 basic, 2 normal, 3 detailed, 255
@@ -98,12 +104,13 @@ void LM_SetData_from_App(void* message, uint64_t size);
  * A level other than 0 has two more effects. From the next frame on, every frame carries the information
  * overlay, texts in the upper right corner of the screen. And the user interface is on (0 turns it off) for
  * overlay windows that are created from then on: the icon in the notification area, its menu, and the global
- * hotkey Ctrl+Alt+Shift+W that opens the menu. */
+ * hotkey Ctrl+Alt+Shift+W that opens the menu. Raises nothing. */
 void LM_SetDebugLevel(uint32_t level);
 
 /* Replaces the parameters by a copy of `params`, which must point to a readable record: null is not
  * checked. Does nothing without an instance. While the settings dialog is open it holds a larger brush size
- * within 200 and a larger ink life within 1000, and what it has lowered stays so when it is closed. */
+ * within 200 and a larger ink life within 1000, and what it has lowered stays so when it is closed. Raises
+ * nothing. */
 void LM_SetParams(const LM_Params* params);
 
 #ifdef __cplusplus
