@@ -61,13 +61,13 @@ function(lumora_own_code target)
   endif()
 endfunction()
 
-# What goes to hosts keeps its debug symbols, in a file of its own beside it.
+# What goes to hosts keeps its debug symbols, in a file of its own beside it. -p keeps the linker's time stamp, which is none.
 function(lumora_shipped target)
   set_target_properties(${target} PROPERTIES LUMORA_SHIPPED ON)
   if(MINGW)
     add_custom_command(TARGET ${target} POST_BUILD
-      COMMAND ${CMAKE_OBJCOPY} --only-keep-debug "$<TARGET_FILE:${target}>" "$<TARGET_FILE:${target}>.debug"
-      COMMAND ${CMAKE_OBJCOPY} --strip-all "--add-gnu-debuglink=$<TARGET_FILE:${target}>.debug" "$<TARGET_FILE:${target}>" VERBATIM)
+      COMMAND ${CMAKE_OBJCOPY} -p --only-keep-debug "$<TARGET_FILE:${target}>" "$<TARGET_FILE:${target}>.debug"
+      COMMAND ${CMAKE_OBJCOPY} -p --strip-all "--add-gnu-debuglink=$<TARGET_FILE:${target}>.debug" "$<TARGET_FILE:${target}>" VERBATIM)
   elseif(MSVC)
     target_link_options(${target} PRIVATE /DEBUG /OPT:REF /OPT:ICF)
   endif()
