@@ -149,6 +149,7 @@ TEST_F(Interruption, AnInstanceThatIsMadeWhileAnotherIsRebuiltIsTheOne)
 
 TEST_F(Interruption, ASetUpThatHasLostItsInstanceTakesNoFurtherStep)
 {
+    SelectGDI();
     StyleWindows();
     calls.Record<"SetLayeredWindowAttributes">(SetLayeredWindowAttributes);
     Arm(Moment::After, 1, [this] { library.Destroy(); });
