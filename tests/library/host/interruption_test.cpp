@@ -147,17 +147,6 @@ TEST_F(Interruption, AnInstanceThatIsMadeWhileAnotherIsRebuiltIsTheOne)
     EXPECT_EQ(library.GetWindowHandle(), inside);
 }
 
-TEST_F(Interruption, ASetUpThatHasLostItsInstanceTakesNoFurtherStep)
-{
-    SelectGDI();
-    StyleWindows();
-    calls.Record<"SetLayeredWindowAttributes">(SetLayeredWindowAttributes);
-    Arm(Moment::After, 1, [this] { library.Destroy(); });
-    library.Create();
-    EXPECT_TRUE(HasFired());
-    EXPECT_EQ(calls.Count("SetLayeredWindowAttributes"), 0U);
-}
-
 TEST_F(Interruption, AFrameThatHasLostItsInstanceIsNotShown)
 {
     library.Create();
