@@ -12,8 +12,6 @@ namespace zq::LM::test {
 
 namespace {
 
-constexpr const wchar_t* ClassPrefix = L"Lumora Window Class_";
-
 class BackEndChanges : public BackEndTest, public testing::WithParamInterface<unsigned> {
 protected:
     BackEndChanges() : BackEndTest(DirectCompositionBackEnd, {0, 0, 200, 160}) {} // small, for speed
@@ -99,7 +97,7 @@ void BackEndChanges::ExpectOnlyWhatStaysOnPurpose()
 {
     const bool composes = AllBackEnds[active].command == ChooseDirectComposition;
     const auto windows = static_cast<std::size_t>(changes) + 1;
-    EXPECT_EQ(WindowsOfClass(ClassPrefix).size(), windows);
+    EXPECT_EQ(OverlayWindows().size(), windows);
     EXPECT_EQ(traffic->WindowContexts(), windows);
     EXPECT_EQ(traffic->MemoryContexts(), composes ? 0U : 1U);
     EXPECT_EQ(traffic->Objects(), composes ? 0U : 1U); // the bitmap
@@ -124,7 +122,7 @@ TEST_P(BackEndChanges, ShowTheActiveOneKeepTheRecordAndLeaveWhatStaysOnPurpose)
     }
     DestroyAndForget();
     SettleScreen();
-    EXPECT_EQ(WindowsOfClass(ClassPrefix).size(), static_cast<std::size_t>(Changes));
+    EXPECT_EQ(OverlayWindows().size(), static_cast<std::size_t>(Changes));
     EXPECT_EQ(traffic->MemoryContexts(), 0U);
     EXPECT_EQ(traffic->Objects(), 0U);
     ExpectOnlyDevicesLeft(*graphics, compositions);

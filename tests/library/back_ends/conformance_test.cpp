@@ -1,12 +1,11 @@
 // What every back-end shows alike: where ink lies, how wide it is, its colours, and nothing anywhere else.
 #include "library/back_ends/coverage.h"
 #include "support/library/back_end_test.h"
+#include "support/row_name.h"
 
 namespace zq::LM::test {
 
 namespace {
-
-std::string BackEndName(const testing::TestParamInfo<BackEnd>& info) { return info.param.name; }
 
 class BackEndConformance : public BackEndTest, public testing::WithParamInterface<BackEnd> {
 protected:
@@ -185,7 +184,7 @@ TEST_P(BackEndConformance, ClicksOnInkReachWhatIsBelow)
     EXPECT_EQ(WindowFromPoint({250, 200}), backdrop.Window());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, BackEndConformance, testing::ValuesIn(AllBackEnds), BackEndName);
+INSTANTIATE_TEST_SUITE_P(Each, BackEndConformance, testing::ValuesIn(AllBackEnds), RowName());
 
 // With a screen that does not begin at the origin.
 class BackEndConformanceBesideTheOrigin : public BackEndConformance {
@@ -229,8 +228,7 @@ TEST_P(BackEndConformanceBesideTheOrigin, StrokesAreGoneAfterTheirLife)
     EXPECT_TRUE(ShowsNothing());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, BackEndConformanceBesideTheOrigin, testing::ValuesIn(AllBackEnds),
-                         BackEndName);
+INSTANTIATE_TEST_SUITE_P(Each, BackEndConformanceBesideTheOrigin, testing::ValuesIn(AllBackEnds), RowName());
 
 } // namespace
 

@@ -2,7 +2,7 @@
 // failed.
 #include "support/hook/import_hook.h"
 #include "support/library/back_end_test.h"
-#include "support/step_name.h"
+#include "support/row_name.h"
 
 #include <algorithm>
 
@@ -107,15 +107,6 @@ TEST_F(Direct2DOverlay, HollowStrokesOfANarrowerBrushAreErasedByTheWidestPen)
                 ElementsAre(HasSubstr(", 5, "), HasSubstr(", 3, "), HasSubstr(", 2.14748e+09, ")));
 }
 
-TEST_F(Direct2DOverlay, AFrameAfterAFailedOneIsShown)
-{
-    graphics->Answer("DCRenderTarget.EndDraw", E_FAIL);
-    Stroke(200, 300, 200);
-    EXPECT_TRUE(graphics->WereAnswersUsed());
-    Refresh();
-    EXPECT_EQ(Look().At(250, 200), Red);
-}
-
 // The overlay as it is just after its creation.
 class NewDirect2DOverlay : public Direct2DOverlay {
 protected:
@@ -164,7 +155,7 @@ TEST_P(Direct2DOverlayWithoutATarget, GivesWayToAnotherBackEnd)
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, Direct2DOverlayWithoutATarget,
-                         testing::Values("D2D1CreateFactory", "D2DFactory.CreateDCRenderTarget"), StepName);
+                         testing::Values("D2D1CreateFactory", "D2DFactory.CreateDCRenderTarget"), RowName());
 
 } // namespace
 

@@ -2,6 +2,7 @@
 // chosen.
 #include "support/hook/hooks.h"
 #include "support/library/back_end_test.h"
+#include "support/row_name.h"
 
 namespace zq::LM::test {
 
@@ -57,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Change{Direct2DBackEnd, ChooseDirectComposition, "Direct2DToDirectComposition"},
                     Change{DirectCompositionBackEnd, ChooseGDI, "DirectCompositionToGDI"},
                     Change{DirectCompositionBackEnd, ChooseDirect2D, "DirectCompositionToDirect2D"}),
-    [](const auto& each) { return std::string(each.param.name); });
+    RowName());
 
 // Those that draw into memory, where what they draw into cannot be made.
 class WithoutMemory : public BackEndTest, public testing::WithParamInterface<BackEnd> {
@@ -101,8 +102,7 @@ TEST_P(WithoutMemory, WithoutABitmapNothingIsSeenUntilThereIsOne) { ExpectRecove
 
 TEST_P(WithoutMemory, WithoutADeviceContextNothingIsSeenUntilThereIsOne) { ExpectRecovery(givesContexts); }
 
-INSTANTIATE_TEST_SUITE_P(Each, WithoutMemory, testing::Values(Direct2DBackEnd, GDIBackEnd),
-                         [](const auto& each) { return std::string(each.param.name); });
+INSTANTIATE_TEST_SUITE_P(Each, WithoutMemory, testing::Values(Direct2DBackEnd, GDIBackEnd), RowName());
 
 // A shell that has no size for a while, as one that starts.
 class ShellWithoutSize : public BackEndTest, public testing::WithParamInterface<BackEnd> {
@@ -148,8 +148,7 @@ TEST_P(ShellWithoutSize, AtTheCreationFreezesTheOverlayNoLongerThanThat)
     ExpectInkOnceItHasOneAgain();
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, ShellWithoutSize, testing::ValuesIn(AllBackEnds),
-                         [](const auto& each) { return std::string(each.param.name); });
+INSTANTIATE_TEST_SUITE_P(Each, ShellWithoutSize, testing::ValuesIn(AllBackEnds), RowName());
 
 } // namespace
 

@@ -17,21 +17,6 @@ class FramesTest : public CompositionTest {
 protected:
     FramesTest() { CreateQuietly(); }
     ~FramesTest() override { library.SetDebugLevel(0); }
-
-    void SetInk(std::uint32_t colour) const
-    {
-        LM_Params params = Params();
-        params.inkColor = colour;
-        SetParams(params);
-    }
-
-    // Old ink ages out, and so does its frame.
-    void Forget()
-    {
-        clock.Advance(1000);
-        Tick();
-        Frame();
-    }
 };
 
 TEST_F(FramesTest, AreClearedDrawnEndedAndPresented)
@@ -48,50 +33,10 @@ TEST_F(FramesTest, AreClearedDrawnEndedAndPresented)
                             "DeviceContext#1.EndDraw(null, null) = 0", "SwapChain#1.Present(0, 0) = 0"));
 }
 
-TEST_F(FramesTest, CommitNothing)
-{
-    FrameWith({Sample(100, 100), Sample(150, 120)});
-    FrameWith({Sample(160, 120)});
-    EXPECT_EQ(composition.Count("CompositionDevice.Commit"), 0U);
-}
-
-TEST_F(FramesTest, InkIsOpaqueAndTheRestIsTransparent)
-{
-    FrameWith({Sample(100, 100), Sample(200, 100)});
-    EXPECT_EQ(PixelAt(150, 100), 0xFF202020U);
-    EXPECT_EQ(PixelAt(150, 97), 0xFF202020U);
-    EXPECT_EQ(PixelAt(150, 90), 0U);
-    EXPECT_EQ(PixelAt(150, 110), 0U);
-    EXPECT_EQ(PixelAt(300, 100), 0U);
-}
-
-TEST_F(FramesTest, SegmentsOfOneColourShareABrush)
-{
-    const Lines calls = FrameWith({Sample(100, 100), Sample(150, 120), Sample(160, 130), Sample(170, 150)});
-    Input({Sample(180, 160)});
-    UpdateWindow(library.GetWindowHandle());
-    EXPECT_EQ(composition.Count("DeviceContext.DrawLine"), 4U); // and three in the first frame
-    EXPECT_EQ(composition.Count("DeviceContext.CreateSolidColorBrush"), 0U);
-    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
-                            [](const std::string& call) {
-                                return call.find("CreateSolidColorBrush") != std::string::npos;
-                            }),
-              1);
-}
-
-TEST_F(FramesTest, AnotherColourReplacesTheBrush)
-{
-    FrameWith({Sample(100, 100), Sample(150, 120)});
-    SetInk(0x000000FF);
-    Frame();
-    EXPECT_THAT(composition.Held(), testing::Contains(testing::Pair("Brush#2", 1)));
-    EXPECT_THAT(composition.Held(), testing::Not(testing::Contains(testing::Pair("Brush#1", 1))));
-}
-
 TEST_F(FramesTest, ReleaseTheOldBrushBeforeTheyMakeAnother)
 {
     FrameWith({Sample(100, 100), Sample(150, 120)});
-    SetInk(0x000000FF);
+    SetField(&LM_Params::inkColor, 0x000000FF);
     Lines calls = Frame();
     std::erase_if(calls, [](const std::string& call) {
         return call != "Brush#1.Release() = 0" && call.find("CreateSolidColorBrush") == std::string::npos;

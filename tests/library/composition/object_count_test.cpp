@@ -4,35 +4,20 @@
 #include "support/library/leftovers.h"
 #include "support/library/object_counts.h"
 
-#include <ostream>
+#include <utility>
 
 namespace zq::LM::test {
 
 namespace {
 
-constexpr const wchar_t* ClassPrefix = L"Lumora Window Class_";
-
-struct Counts {
-    std::size_t gdiObjects = 0;
-    std::size_t kernelHandles = 0;
-    bool operator==(const Counts&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Counts& counts)
-{
-    return out << counts.gdiObjects << " GDI objects, " << counts.kernelHandles << " kernel handles";
-}
+using Counts = std::pair<std::size_t, std::size_t>; // GDI objects and kernel handles
 
 class CompositionObjectCount : public CompositionTest {
 protected:
     // Without the windows that rebuilds leave behind, which keep what the system gives each window.
     Counts CountWithoutLeftWindows() const
     {
-        for (const HWND window : WindowsOfClass(ClassPrefix)) {
-            if (window != library.GetWindowHandle()) {
-                DestroyWindow(window);
-            }
-        }
+        DestroyLeftWindows(library.GetWindowHandle());
         PumpMessages();
         return {GdiObjects(), KernelHandles()};
     }
@@ -89,7 +74,7 @@ TEST_F(CompositionObjectCount, DoesNotGrowWithRebuilds)
                           // count
     const Counts before = CountWithoutLeftWindows();
     changeBackAndForth();
-    EXPECT_EQ(WindowsOfClass(ClassPrefix).size(), 2U * Pairs + 1);
+    EXPECT_EQ(OverlayWindows().size(), 2U * Pairs + 1);
     EXPECT_EQ(CountWithoutLeftWindows(), before);
 }
 

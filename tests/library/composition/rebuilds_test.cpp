@@ -59,7 +59,7 @@ TEST_F(RebuildsTest, TwentyLeaveWhatIsLeftOnPurposeAndNoMore)
         FrameWith({Sample(100, 100), Sample(200, 100)});
     }
     EXPECT_EQ(setUps, Pairs + 1);
-    EXPECT_EQ(WindowsOfClass(L"Lumora Window Class").size(), 2U * Pairs + 1);
+    EXPECT_EQ(OverlayWindows().size(), 2U * Pairs + 1);
     EXPECT_EQ(PixelAt(150, 100), 0xFF202020U);
 }
 

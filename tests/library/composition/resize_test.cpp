@@ -1,6 +1,6 @@
 // How the swap chain follows the overlay's size.
 #include "support/library/composition_test.h"
-#include "support/step_name.h"
+#include "support/row_name.h"
 
 #include <algorithm>
 
@@ -167,7 +167,7 @@ TEST_P(FailingResizeTest, SaysNothing)
 
 INSTANTIATE_TEST_SUITE_P(Steps, FailingResizeTest,
                          testing::Values("SwapChain.GetBuffer", "DeviceContext.CreateBitmapFromDxgiSurface"),
-                         StepName);
+                         RowName());
 
 } // namespace
 

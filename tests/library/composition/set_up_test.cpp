@@ -1,5 +1,6 @@
 // The device chain's set-up: its calls, and what follows when one of them fails.
 #include "support/library/composition_test.h"
+#include "support/row_name.h"
 
 #include <algorithm>
 
@@ -144,18 +145,16 @@ TEST_F(SetUpTest, NothingIsMadeForAnotherBackEnd)
 enum class Frames { None, WithoutTarget, Complete };
 
 struct FailingStep {
-    const char* step;
+    const char* name;
     int devicesLeft; // composition devices that stay behind on purpose
     Frames frames;   // what has been made is enough for
 };
-
-std::ostream& operator<<(std::ostream& out, const FailingStep& failing) { return out << failing.step; }
 
 class FailingSetUpTest : public SetUpTest, public testing::WithParamInterface<FailingStep> {
 protected:
     FailingSetUpTest()
     {
-        composition.Answer(GetParam().step, E_FAIL);
+        composition.Answer(GetParam().name, E_FAIL);
         setUps = GetParam().devicesLeft;
     }
 
@@ -165,7 +164,7 @@ protected:
         Lines lines;
         for (const RecordedCall& call : composition.Calls()) {
             lines.push_back(call.Text());
-            if (call.Step() == GetParam().step) {
+            if (call.Step() == GetParam().name) {
                 break;
             }
         }
@@ -175,7 +174,7 @@ protected:
     // As many as in a set-up that succeeds, the last of them failed.
     Lines ExpectedCalls(HWND window) const
     {
-        const std::string step = GetParam().step;
+        const std::string step = GetParam().name;
         const std::string method = step.substr(step.find('.') + 1) + '(';
         const std::string kind = step.substr(0, step.find('.'));
         Lines lines = SetUpCalls(window);
@@ -250,11 +249,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FailingStep{"DWriteCreateFactory", 1, Frames::Complete},
                     FailingStep{"D2DFactory.CreateStrokeStyle", 1, Frames::Complete},
                     FailingStep{"WriteFactory.CreateTextFormat", 1, Frames::Complete}),
-    [](const testing::TestParamInfo<FailingStep>& tested) {
-        std::string name = tested.param.step;
-        std::erase(name, '.');
-        return name;
-    });
+    RowName());
 
 } // namespace
 

@@ -22,6 +22,11 @@ protected:
         return [refused](std::size_t, unsigned number) { return number == refused; };
     }
 
+    static MemoryStandIn::Rule FromNumberOn(unsigned first)
+    {
+        return [first](std::size_t, unsigned number) { return number >= first; };
+    }
+
     static MemoryStandIn::Rule OfAtLeast(std::size_t refused)
     {
         return [refused](std::size_t size, unsigned) { return size >= refused; };
@@ -41,15 +46,37 @@ protected:
         library.SetData_from_App(&params, sizeof(params));
     }
 
+    void CreateWithoutTheReservation()
+    {
+        memory.RefuseWhen(OfAtLeast(ReservedBytes));
+        EXPECT_THROW(library.Create(), std::bad_alloc);
+        EXPECT_EQ(memory.Refused(), 1U);
+        memory.RefuseNothing();
+    }
+
+    void CreateWithoutACore()
+    {
+        LiveOnce();
+        memory.RefuseWhen(OfNumber(CoreOfACreation()));
+        EXPECT_EQ(library.Create(), nullptr);
+        EXPECT_EQ(memory.Refused(), 1U);
+        memory.RefuseNothing();
+    }
+
+    // With GDI; what is made once for the process is made here.
+    void LiveOnce()
+    {
+        CreateWithGDI();
+        DestroyAndForget();
+    }
+
     // The runtime's own state for exceptions, of the thread and of its emergency store, is made at the first
     // ones; a process in which even that finds no memory ends there, whatever the library does.
     void RaiseTheFirstExceptions()
     {
-        CreateWithGDI();
-        DestroyAndForget();
+        LiveOnce();
         const unsigned core = CoreOfACreation();
-        memory.RefuseWhen(OfAtLeast(ReservedBytes));
-        EXPECT_THROW(library.Create(), std::bad_alloc);
+        CreateWithoutTheReservation();
         // The exception itself is refused too; the Core is not, since that would raise none.
         memory.RefuseWhen([core](std::size_t size, unsigned number) { return size >= 100 && number > core; });
         EXPECT_THROW(library.Create(), std::bad_alloc);
@@ -139,18 +166,9 @@ protected:
     MemoryStandIn memory{library.Module()};
 };
 
-TEST_F(AllocationFailure, OfTheLargeReservationReachesTheHostAsBadAlloc)
+TEST_F(AllocationFailure, OfTheLargeReservationReachesTheHostAsBadAllocAndLeavesNoInstance)
 {
-    memory.RefuseWhen(OfAtLeast(ReservedBytes));
-    EXPECT_THROW(library.Create(), std::bad_alloc);
-    EXPECT_EQ(memory.Refused(), 1U);
-}
-
-TEST_F(AllocationFailure, OfTheLargeReservationLeavesNoInstance)
-{
-    memory.RefuseWhen(OfAtLeast(ReservedBytes));
-    EXPECT_THROW(library.Create(), std::bad_alloc);
-    memory.RefuseNothing();
+    CreateWithoutTheReservation();
     ExpectNoCore();
     library.Destroy();
     EXPECT_FALSE(test::PumpMessages());
@@ -158,22 +176,17 @@ TEST_F(AllocationFailure, OfTheLargeReservationLeavesNoInstance)
 
 TEST_F(AllocationFailure, OfTheLargeReservationLosesNothing)
 {
-    CreateWithGDI(); // what is made once for the process is made here
-    DestroyAndForget();
-    memory.RefuseWhen(OfAtLeast(ReservedBytes));
-    EXPECT_THROW(library.Create(), std::bad_alloc);
+    LiveOnce();
+    CreateWithoutTheReservation();
     const std::size_t before = memory.HeldBlocks();
-    EXPECT_THROW(library.Create(), std::bad_alloc);
+    CreateWithoutTheReservation();
     EXPECT_EQ(memory.HeldBlocks(), before);
 }
 
 TEST_F(AllocationFailure, OfTheLargeReservationLeavesALaterCreateWorking)
 {
-    CreateWithGDI();
-    DestroyAndForget();
-    memory.RefuseWhen(OfAtLeast(ReservedBytes));
-    EXPECT_THROW(library.Create(), std::bad_alloc);
-    memory.RefuseNothing();
+    LiveOnce();
+    CreateWithoutTheReservation();
     EXPECT_NE(library.Create(), nullptr);
     ExpectWorking();
 }
@@ -181,21 +194,14 @@ TEST_F(AllocationFailure, OfTheLargeReservationLeavesALaterCreateWorking)
 TEST_F(AllocationFailure, OfTheLargeReservationStillEndsTheInstanceBefore)
 {
     const HWND first = library.Create();
-    memory.RefuseWhen(OfAtLeast(ReservedBytes));
-    EXPECT_THROW(library.Create(), std::bad_alloc);
-    memory.RefuseNothing();
+    CreateWithoutTheReservation();
     EXPECT_FALSE(IsWindow(first));
     ExpectNoCore();
 }
 
 TEST_F(AllocationFailure, OfTheCoreItselfGivesANullHandle)
 {
-    CreateWithGDI();
-    DestroyAndForget();
-    memory.RefuseWhen(OfNumber(CoreOfACreation()));
-    EXPECT_EQ(library.Create(), nullptr);
-    EXPECT_EQ(memory.Refused(), 1U);
-    memory.RefuseNothing();
+    CreateWithoutACore();
     ExpectNoCore();
     library.Destroy();
     EXPECT_FALSE(test::PumpMessages());
@@ -204,12 +210,7 @@ TEST_F(AllocationFailure, OfTheCoreItselfGivesANullHandle)
 
 TEST_F(AllocationFailure, OfTheCoreItselfLeavesALaterCreateWorking)
 {
-    CreateWithGDI();
-    DestroyAndForget();
-    const unsigned core = CoreOfACreation();
-    memory.RefuseWhen(OfNumber(core));
-    EXPECT_EQ(library.Create(), nullptr);
-    memory.RefuseNothing();
+    CreateWithoutACore();
     test::PumpMessages();
     EXPECT_NE(library.Create(), nullptr);
     ExpectWorking();
@@ -217,8 +218,7 @@ TEST_F(AllocationFailure, OfTheCoreItselfLeavesALaterCreateWorking)
 
 TEST_F(AllocationFailure, OfTheInkEngineLeavesAnInstanceThatDrawsNothing)
 {
-    CreateWithGDI();
-    DestroyAndForget();
+    LiveOnce();
     const unsigned engine =
         NumberOfACreations([this] { return IsWindow(library.GetWindowHandle()) && ReadsNoRecord(); });
     memory.RefuseWhen(OfNumber(engine));
@@ -237,8 +237,7 @@ TEST_F(AllocationFailure, OfTheInkEngineLeavesAnInstanceThatDrawsNothing)
 
 TEST_F(AllocationFailure, OfTheRecordLeavesAnInstanceThatKeepsTheDefaults)
 {
-    CreateWithGDI();
-    DestroyAndForget();
+    LiveOnce();
     memory.RefuseWhen(OfNumber(NumberOfACreations([this] { return KeepsNoRecord(); })));
     ASSERT_NE(library.Create(), nullptr);
     EXPECT_EQ(memory.Refused(), 1U);
@@ -319,7 +318,7 @@ TEST_F(AllocationFailure, OfTheCoreDuringARebuildLeavesAnInstanceWithoutOne)
 // The first allocation fails, the second, ... until a whole life passes without one that could.
 class EachAllocationFailure : public AllocationFailure {
 protected:
-    template <typename MakeRule> void FailEach(MakeRule makeRule)
+    void FailEach(MemoryStandIn::Rule (*makeRule)(unsigned failing))
     {
         constexpr unsigned MostAllocations = 500;
         RaiseTheFirstExceptions();
@@ -337,8 +336,7 @@ protected:
             memory.RefuseNothing();
             test::PumpMessages();
             EXPECT_EQ(memory.HeldBlocks(), held) << "after failure of allocation " << number;
-            EXPECT_TRUE(test::WindowsOfClass(L"Lumora Window Class_").empty())
-                << "after failure of allocation " << number;
+            EXPECT_TRUE(test::OverlayWindows().empty()) << "after failure of allocation " << number;
             // Wine 10 keeps the bitmaps of the window destroyed last, and how many those are depends on how
             // far it came. So the last one is always that of a whole life.
             LiveThroughOnce();
@@ -352,19 +350,9 @@ protected:
     }
 };
 
-TEST_F(EachAllocationFailure, OnceOnlyLosesNothingAndALaterInstanceWorks)
-{
-    FailEach([](unsigned failing) {
-        return [failing](std::size_t, unsigned number) { return number == failing; };
-    });
-}
+TEST_F(EachAllocationFailure, OnceOnlyLosesNothingAndALaterInstanceWorks) { FailEach(OfNumber); }
 
-TEST_F(EachAllocationFailure, AndAllLaterOnesLosesNothingAndALaterInstanceWorks)
-{
-    FailEach([](unsigned failing) {
-        return [failing](std::size_t, unsigned number) { return number >= failing; };
-    });
-}
+TEST_F(EachAllocationFailure, AndAllLaterOnesLosesNothingAndALaterInstanceWorks) { FailEach(FromNumberOn); }
 
 } // namespace
 } // namespace zq::LM

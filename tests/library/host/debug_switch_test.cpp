@@ -14,7 +14,6 @@ using Lines = std::vector<LogLine>;
 class DebugSwitch : public OverlayTest {
 protected:
     Hook<"RegisterHotKey", decltype(RegisterHotKey)> hotkeys{library.Module()};
-    LM_PenData nothing{};
 };
 
 TEST_F(DebugSwitch, LogsAtLevelOneFromTheStart)
@@ -51,7 +50,7 @@ TEST_F(DebugSwitch, MarksTheInformationOverlayAndMovesItsLinesDown)
     test::Hooks calls{library.Module()};
     calls.Record<"SetTextColor">(SetTextColor);
     calls.Record<"TextOutW">(TextOutW);
-    library.InputPenDataArray(&nothing, 0);
+    InputNothing();
     Paint();
     EXPECT_THAT(calls.Take(),
                 testing::IsSupersetOf({"SetTextColor(*, 255)", "TextOutW(*, 310, 32, \"(DEBUG_)\", 8)",

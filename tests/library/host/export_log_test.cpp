@@ -65,12 +65,13 @@ protected:
         return lines;
     }
 
-    template <typename Call> LogLine FirstLineOf(Call call)
+    template <typename Call> Lines LinesOf(Call call)
     {
         debugger.Clear();
         call();
-        return debugger.Lines().empty() ? LogLine{false, "no line"} : debugger.Lines().front();
+        return debugger.Lines();
     }
+    template <typename Call> LogLine FirstLineOf(Call call) { return LinesOf(call).at(0); }
 };
 
 class ExportLogAtLevel : public ExportLog, public ::testing::WithParamInterface<std::uint32_t> {
@@ -176,50 +177,32 @@ TEST_F(ExportLog, HasTheLineOfPenInputWithANullArrayToo)
 {
     library.SetDebugLevel(2);
     library.Create();
-    debugger.Clear();
-    library.InputPenDataArray(nullptr, 3);
-    EXPECT_EQ(debugger.Lines(), (Lines{{true, "zq::CallFunc::InputPenDataArray\n"}}));
+    EXPECT_EQ(LinesOf([&] { library.InputPenDataArray(nullptr, 3); }),
+              (Lines{{true, "zq::CallFunc::InputPenDataArray\n"}}));
 }
 
 TEST_F(ExportLog, TellsOfTheInvalidationByPenInputFromLevelTwoOn)
 {
     library.SetDebugLevel(2);
     library.Create();
-    debugger.Clear();
-    Input({Sample(100, 100)});
-    EXPECT_EQ(debugger.Lines(),
+    EXPECT_EQ(LinesOf([&] { Input({Sample(100, 100)}); }),
               (Lines{{true, "zq::CallFunc::InputPenDataArray\n"}, {true, "InvalidateRect is called.\n"}}));
 }
 
-TEST_F(ExportLog, ComparesTheLineOfSetDebugLevelWithTheOldLevel)
+TEST_F(ExportLog, ComparesTheLineOfSetDebugLevelWithTheOldLevelAndThatOfTheSetLevelWithTheNew)
 {
-    library.SetDebugLevel(1);
-    debugger.Clear();
-    library.SetDebugLevel(0);
-    EXPECT_EQ(debugger.Lines(), (Lines{{true, "zq::CallFunc::SetDebugLevel\n"}}));
-}
-
-TEST_F(ExportLog, ComparesTheLineOfTheSetLevelWithTheNewLevel)
-{
-    library.SetDebugLevel(1);
-    EXPECT_EQ(debugger.Lines(), (Lines{{true, "Debug level set\n"}}));
-}
-
-TEST_F(ExportLog, HasBothLinesWhenOldAndNewLevelAreAboveZero)
-{
-    library.SetDebugLevel(255);
-    debugger.Clear();
-    library.SetDebugLevel(1);
-    EXPECT_EQ(debugger.Lines(),
-              (Lines{{true, "zq::CallFunc::SetDebugLevel\n"}, {true, "Debug level set\n"}}));
+    const LogLine called = {true, "zq::CallFunc::SetDebugLevel\n"};
+    const LogLine set = {true, "Debug level set\n"};
+    EXPECT_EQ(LinesOf([&] { library.SetDebugLevel(255); }), Lines{set});
+    EXPECT_EQ(LinesOf([&] { library.SetDebugLevel(1); }), (Lines{called, set}));
+    EXPECT_EQ(LinesOf([&] { library.SetDebugLevel(0); }), Lines{called});
 }
 
 TEST_F(ExportLog, HasTheSizeLineForANullRecordToo)
 {
     library.SetDebugLevel(1);
-    debugger.Clear();
-    library.GetCopiedParams(nullptr);
-    EXPECT_EQ(debugger.Lines(), (Lines{{true, "zq::CallFunc::GetCopiedParams\n"}, {true, SizeLine}}));
+    EXPECT_EQ(LinesOf([&] { library.GetCopiedParams(nullptr); }),
+              (Lines{{true, "zq::CallFunc::GetCopiedParams\n"}, {true, SizeLine}}));
 }
 
 TEST_F(ExportLog, KeepsItsLevelBeyondTheInstance)
@@ -227,9 +210,7 @@ TEST_F(ExportLog, KeepsItsLevelBeyondTheInstance)
     library.SetDebugLevel(1);
     library.Create();
     DestroyAndForget();
-    debugger.Clear();
-    library.GetWindowHandle();
-    EXPECT_EQ(debugger.Lines().size(), 1U);
+    EXPECT_EQ(LinesOf([&] { library.GetWindowHandle(); }).size(), 1U);
 }
 
 } // namespace

@@ -50,9 +50,7 @@ void InterruptingHost::RebuildInside()
 void InterruptingHost::UseInside()
 {
     InputStroke();
-    LM_Params params = Params();
-    params.brushSize += 1;
-    SetParams(params);
+    SetField(&LM_Params::brushSize, Params().brushSize + 1);
     lumora::BrushDataMessage message = lumora::MakeBrushSize(1, 30);
     library.SetData_from_App(message.data(), message.size());
     library.SetDebugLevel(1);
@@ -90,7 +88,7 @@ void InterruptingHost::Live()
 void InterruptingHost::ExpectNoSheet_() const
 {
     constexpr LONG SeeThrough = WS_EX_LAYERED | WS_EX_TRANSPARENT;
-    for (const HWND window : WindowsOfClass(L"Lumora Window Class_")) {
+    for (const HWND window : OverlayWindows()) {
         EXPECT_EQ(GetWindowLongW(window, GWL_EXSTYLE) & SeeThrough, SeeThrough);
     }
 }
@@ -116,9 +114,7 @@ void InterruptingHost::ExpectIntact()
     EXPECT_FALSE(IsInvalid());
     DestroyAndForget();
     EXPECT_EQ(library.GetWindowHandle(), nullptr);
-    for (const HWND left : WindowsOfClass(L"Lumora Window Class_")) {
-        DestroyWindow(left);
-    }
+    DestroyLeftWindows(nullptr);
 }
 
 } // namespace zq::LM::test

@@ -1,6 +1,7 @@
 // Every call of the library in which code of the host can run, and everything that the host may do there.
 #include "library/host/interrupting_host.h"
 #include "platform/win32/gdiplus_flat.h"
+#include "support/row_name.h"
 
 #include <commdlg.h>
 #include <shellapi.h>
@@ -112,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Calls, EachCall,
                                          Call{"EndDialog", &Interruption::EndDialogs},
                                          Call{"D3D11CreateDevice", &Interruption::MakeDevices},
                                          Call{"GdipDrawLineI", &Interruption::DrawLines}),
-                         [](const auto& each) { return std::string(each.param.name); });
+                         RowName());
 
 // A handler of the debugger's output is host code as well. There are many lines, so one moment of each is
 // enough.
@@ -145,16 +146,6 @@ TEST_F(Interruption, AnInstanceThatIsMadeWhileAnotherIsRebuiltIsTheOne)
     InputStroke();
     EXPECT_TRUE(HasFired());
     EXPECT_EQ(library.GetWindowHandle(), inside);
-}
-
-TEST_F(Interruption, ASetUpThatHasLostItsInstanceTakesNoFurtherStep)
-{
-    StyleWindows();
-    calls.Record<"SetLayeredWindowAttributes">(SetLayeredWindowAttributes);
-    Arm(Moment::After, 1, [this] { library.Destroy(); });
-    library.Create();
-    EXPECT_TRUE(HasFired());
-    EXPECT_EQ(calls.Count("SetLayeredWindowAttributes"), 0U);
 }
 
 TEST_F(Interruption, AFrameThatHasLostItsInstanceIsNotShown)
@@ -228,11 +219,20 @@ protected:
         ::DestroyWindow(window);
     }
 
-    // When the host's window has lost the activation, once.
-    void Await(std::function<void()> action) { g_action = std::move(action); }
-    static bool HasHappened() { return !g_action; }
-
-    HWND window;
+    // Each action once, when the leaving takes the activation from the host's window.
+    template <typename Prepare, typename Leave> void ExpectIntactWhenLeft(Prepare prepare, Leave leave)
+    {
+        for (const Action& action : Actions) {
+            SCOPED_TRACE(action.name);
+            KeepFreedMemory();
+            prepare();
+            SetActiveWindow(window);
+            g_action = [this, &action] { (this->*action.run)(); };
+            leave();
+            EXPECT_FALSE(g_action) << "nothing has taken the activation";
+            ExpectIntact();
+        }
+    }
 
 private:
     static LRESULT CALLBACK Procedure_(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
@@ -244,33 +244,17 @@ private:
     }
 
     inline static std::function<void()> g_action;
+    HWND window;
 };
 
 TEST_F(HostWindow, MayEndTheInstanceWhenTheDialogTakesTheActivation)
 {
-    for (const Action& action : Actions) {
-        SCOPED_TRACE(action.name);
-        KeepFreedMemory();
-        const HWND overlay = library.Create();
-        SetActiveWindow(window);
-        Await([this, &action] { (this->*action.run)(); });
-        SendMessageW(overlay, WM_COMMAND, SettingsCommand, 0);
-        EXPECT_TRUE(HasHappened());
-        ExpectIntact();
-    }
+    ExpectIntactWhenLeft([this] { library.Create(); }, [this] { Choose(SettingsCommand); });
 }
 
 TEST_F(HostWindow, MayEndTheInstanceWhenTheOverlayTakesTheActivation)
 {
-    for (const Action& action : Actions) {
-        SCOPED_TRACE(action.name);
-        KeepFreedMemory();
-        SetActiveWindow(window);
-        Await([this, &action] { (this->*action.run)(); });
-        CheckHandle(library.Create());
-        EXPECT_TRUE(HasHappened());
-        ExpectIntact();
-    }
+    ExpectIntactWhenLeft([] {}, [this] { CheckHandle(library.Create()); });
 }
 
 } // namespace zq::LM::test

@@ -1,5 +1,4 @@
 // The library's file as it is delivered: what it exports and imports, and how it is hardened.
-#include "library/host/portable_executable.h"
 #include "support/library/library.h"
 
 #include <gmock/gmock.h>
@@ -9,12 +8,16 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
+#include <map>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
 
 namespace zq::LM {
 namespace {
 
-using test::FileSection;
-using test::PortableExecutable;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsSubsetOf;
@@ -26,61 +29,104 @@ std::string Upper(std::string text)
     return text;
 }
 
+std::set<std::string> Words(const std::string& text)
+{
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+// As the system's loader maps it; none of its code runs.
 class LibraryFile : public ::testing::Test {
 protected:
-    std::set<std::string> ImportedLibraries() const
+    ~LibraryFile() override { FreeLibrary(file); }
+
+    template <typename Type> const Type* At(ULONGLONG address) const
     {
-        std::set<std::string> names;
-        for (const auto& [library, functions] : file.imports) {
-            names.insert(Upper(library));
+        constexpr ULONGLONG Marks = 3; // of a handle that is only for resources
+        return reinterpret_cast<const Type*>((reinterpret_cast<ULONGLONG>(file) & ~Marks) + address);
+    }
+
+    template <typename Directory> const Directory* DirectoryOf(std::size_t index) const
+    {
+        return At<Directory>(headers.OptionalHeader.DataDirectory[index].VirtualAddress);
+    }
+
+    std::vector<std::string> Exports() const
+    {
+        const auto* exported = DirectoryOf<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
+        EXPECT_EQ(exported->NumberOfFunctions, exported->NumberOfNames) << "none without a name";
+        std::vector<std::string> names;
+        for (DWORD i = 0; i < exported->NumberOfNames; ++i) {
+            names.emplace_back(At<char>(At<DWORD>(exported->AddressOfNames)[i]));
         }
         return names;
+    }
+
+    // Functions by library; ordinals as "#17".
+    std::map<std::string, std::set<std::string>> Imports() const
+    {
+        std::map<std::string, std::set<std::string>> imports;
+        const auto* library = DirectoryOf<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT);
+        for (; library->Name != 0; ++library) {
+            std::set<std::string>& functions = imports[Upper(At<char>(library->Name))];
+            for (const auto* entry = At<ULONGLONG>(library->OriginalFirstThunk); *entry != 0; ++entry) {
+                functions.insert(IMAGE_SNAP_BY_ORDINAL64(*entry)
+                                     ? "#" + std::to_string(IMAGE_ORDINAL64(*entry))
+                                     : std::string(At<IMAGE_IMPORT_BY_NAME>(*entry)->Name));
+            }
+        }
+        return imports;
     }
 
     std::set<std::string> ImportedFunctions() const
     {
         std::set<std::string> names;
-        for (const auto& [library, functions] : file.imports) {
+        for (const auto& [library, functions] : Imports()) {
             names.insert(functions.begin(), functions.end());
         }
         return names;
     }
 
-    const PortableExecutable file = test::ReadPortableExecutable(test::LibraryPath());
+    HMODULE file = LoadLibraryExW(test::LibraryPath(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE);
+    const IMAGE_NT_HEADERS64& headers =
+        *At<IMAGE_NT_HEADERS64>(static_cast<ULONGLONG>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
 };
 
 TEST_F(LibraryFile, IsALibraryForX64)
 {
-    EXPECT_EQ(file.machine, IMAGE_FILE_MACHINE_AMD64);
-    EXPECT_NE(file.fileCharacteristics & IMAGE_FILE_DLL, 0);
+    EXPECT_EQ(headers.Signature, DWORD{IMAGE_NT_SIGNATURE});
+    EXPECT_EQ(headers.OptionalHeader.Magic, IMAGE_NT_OPTIONAL_HDR64_MAGIC);
+    EXPECT_EQ(headers.FileHeader.Machine, IMAGE_FILE_MACHINE_AMD64);
+    EXPECT_NE(headers.FileHeader.Characteristics & IMAGE_FILE_DLL, 0);
 }
 
 TEST_F(LibraryFile, ExportsExactlyTheNineFunctionsUndecorated)
 {
-    EXPECT_THAT(file.exports, ElementsAre("LM_Create", "LM_Destroy", "LM_GetCopiedParams", "LM_GetElmSize",
-                                          "LM_GetWindowHandle", "LM_InputPenDataArray", "LM_SetData_from_App",
-                                          "LM_SetDebugLevel", "LM_SetParams"));
-    EXPECT_EQ(file.exportedFunctions, 9U); // none without a name
+    EXPECT_THAT(Exports(), ElementsAre("LM_Create", "LM_Destroy", "LM_GetCopiedParams", "LM_GetElmSize",
+                                       "LM_GetWindowHandle", "LM_InputPenDataArray", "LM_SetData_from_App",
+                                       "LM_SetDebugLevel", "LM_SetParams"));
 }
 
 // The runtime is linked statically: a host needs no other file beside the library.
 TEST_F(LibraryFile, ImportsFromWindowsOwnLibrariesOnly)
 {
-    const std::set<std::string> windowsLibraries = {
-        "ADVAPI32.DLL", // random numbers for the compiler's stack guard
-        "COMCTL32.DLL", "COMDLG32.DLL", "D2D1.DLL",    "D3D11.DLL",   "DCOMP.DLL",
-        "DWRITE.DLL",   "DXGI.DLL",     "GDI32.DLL",   "GDIPLUS.DLL", "KERNEL32.DLL",
-        "MSVCRT.DLL", // the C runtime that comes with Windows
-        "SHELL32.DLL",  "USER32.DLL",   "VERSION.DLL", "WINMM.DLL",   "WS2_32.DLL",
-    };
-    EXPECT_THAT(ImportedLibraries(), IsSubsetOf(windowsLibraries));
-    EXPECT_THAT(ImportedLibraries(), Contains("USER32.DLL"));
+    std::set<std::string> libraries;
+    for (const auto& [library, functions] : Imports()) {
+        libraries.insert(library);
+    }
+    // ADVAPI32 has random numbers for the compiler's stack guard, MSVCRT is the C runtime that comes with
+    // Windows.
+    EXPECT_THAT(libraries,
+                IsSubsetOf(Words("ADVAPI32.DLL COMCTL32.DLL COMDLG32.DLL D2D1.DLL D3D11.DLL DCOMP.DLL "
+                                 "DWRITE.DLL DXGI.DLL GDI32.DLL GDIPLUS.DLL KERNEL32.DLL MSVCRT.DLL "
+                                 "SHELL32.DLL USER32.DLL VERSION.DLL WINMM.DLL WS2_32.DLL")));
+    EXPECT_THAT(libraries, Contains("USER32.DLL"));
 }
 
 TEST_F(LibraryFile, ImportsNothingByOrdinal)
 {
-    for (const auto& [library, functions] : file.imports) {
-        if (Upper(library) != "WS2_32.DLL") { // its numbers are as fixed as its names; compilers take either
+    for (const auto& [library, functions] : Imports()) {
+        if (library != "WS2_32.DLL") { // its numbers are as fixed as its names; compilers take either
             EXPECT_THAT(functions, ::testing::Each(::testing::Not(::testing::StartsWith("#")))) << library;
         }
     }
@@ -101,73 +147,20 @@ TEST_F(LibraryFile, NeverTouchesTheRegistry)
 // opens the console to report a smashed stack, and its terminate handler writes to the standard error stream.
 TEST_F(LibraryFile, WritesNoFilesBeyondWhatTheRuntimeBringsAlong)
 {
-    const std::set<std::string> writing = {"CopyFile2",
-                                           "CopyFileA",
-                                           "CopyFileExA",
-                                           "CopyFileExW",
-                                           "CopyFileW",
-                                           "CreateDirectoryA",
-                                           "CreateDirectoryExW",
-                                           "CreateDirectoryW",
-                                           "CreateFile2",
-                                           "CreateFileA",
-                                           "CreateFileW",
-                                           "CreateHardLinkW",
-                                           "CreateFileMappingA",
-                                           "CreateFileMappingW",
-                                           "CreateSymbolicLinkW",
-                                           "DeleteFileA",
-                                           "DeleteFileW",
-                                           "MoveFileA",
-                                           "MoveFileExA",
-                                           "MoveFileExW",
-                                           "MoveFileW",
-                                           "OpenFile",
-                                           "RemoveDirectoryA",
-                                           "RemoveDirectoryW",
-                                           "ReplaceFileW",
-                                           "SetEndOfFile",
-                                           "SetFileAttributesW",
-                                           "WriteFile",
-                                           "WriteFileEx",
-                                           "_creat",
-                                           "_fsopen",
-                                           "_lcreat",
-                                           "_lwrite",
-                                           "_mkdir",
-                                           "_open",
-                                           "_sopen",
-                                           "_wcreat",
-                                           "_wfopen",
-                                           "_wfsopen",
-                                           "_wmkdir",
-                                           "_wopen",
-                                           "_wremove",
-                                           "_write",
-                                           "_wsopen",
-                                           "fopen",
-                                           "fopen_s",
-                                           "fprintf",
-                                           "fputc",
-                                           "fputs",
-                                           "fputwc",
-                                           "freopen",
-                                           "fwprintf",
-                                           "fwrite",
-                                           "remove",
-                                           "rename",
-                                           "tmpfile",
-                                           "vfprintf",
-                                           "vfwprintf"};
-    const std::set<std::string> runtimes = {
-#ifdef _MSC_VER
-        "CreateFileW", "WriteFile", "SetEndOfFile",
-        "DeleteFileW", // its standard streams are files of its own
-#else
-        "_open",   "_write",                                                      // the stack guard's console
-        "fprintf", "fputc",  "fputs", "fputwc", "fwprintf", "fwrite", "vfprintf", // standard error
+    const std::set<std::string> writing =
+        Words("CopyFile2 CopyFileA CopyFileExA CopyFileExW CopyFileW CreateDirectoryA CreateDirectoryExW "
+              "CreateDirectoryW CreateFile2 CreateFileA CreateFileW CreateHardLinkW CreateFileMappingA "
+              "CreateFileMappingW CreateSymbolicLinkW DeleteFileA DeleteFileW MoveFileA MoveFileExA "
+              "MoveFileExW MoveFileW OpenFile RemoveDirectoryA RemoveDirectoryW ReplaceFileW SetEndOfFile "
+              "SetFileAttributesW WriteFile WriteFileEx _creat _fsopen _lcreat _lwrite _mkdir _open _sopen "
+              "_wcreat _wfopen _wfsopen _wmkdir _wopen _wremove _write _wsopen fopen fopen_s fprintf fputc "
+              "fputs fputwc freopen fwprintf fwrite remove rename tmpfile vfprintf vfwprintf");
+#ifdef _MSC_VER // its standard streams are files of its own
+    const std::set<std::string> runtimes = Words("CreateFileW WriteFile SetEndOfFile DeleteFileW");
+#else // the stack guard's console, and standard error
+    const std::set<std::string> runtimes =
+        Words("_open _write fprintf fputc fputs fputwc fwprintf fwrite vfprintf");
 #endif
-    };
     std::set<std::string> imported;
     for (const std::string& function : ImportedFunctions()) {
         if (writing.contains(function)) {
@@ -179,23 +172,24 @@ TEST_F(LibraryFile, WritesNoFilesBeyondWhatTheRuntimeBringsAlong)
 
 TEST_F(LibraryFile, MayBePlacedAnywhereInTheWholeAddressSpace)
 {
-    EXPECT_NE(file.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, 0);
-    EXPECT_NE(file.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA, 0);
-    EXPECT_EQ(file.fileCharacteristics & IMAGE_FILE_RELOCS_STRIPPED, 0); // else it could not be moved
+    EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, 0);
+    EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA, 0);
+    EXPECT_EQ(headers.FileHeader.Characteristics & IMAGE_FILE_RELOCS_STRIPPED,
+              0); // else it could not be moved
 }
 
 TEST_F(LibraryFile, RunsNoData)
 {
-    EXPECT_NE(file.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_NX_COMPAT, 0);
+    EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_NX_COMPAT, 0);
 }
 
 TEST_F(LibraryFile, HasNoSectionThatIsBothWritableAndExecutable)
 {
-    ASSERT_FALSE(file.sections.empty());
+    const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(&headers);
     bool hasCode = false;
-    for (const FileSection& section : file.sections) {
-        const bool executable = (section.characteristics & IMAGE_SCN_MEM_EXECUTE) != 0;
-        EXPECT_FALSE(executable && (section.characteristics & IMAGE_SCN_MEM_WRITE) != 0) << section.name;
+    for (WORD i = 0; i < headers.FileHeader.NumberOfSections; ++i, ++section) {
+        const bool executable = (section->Characteristics & IMAGE_SCN_MEM_EXECUTE) != 0;
+        EXPECT_FALSE(executable && (section->Characteristics & IMAGE_SCN_MEM_WRITE) != 0) << section->Name;
         hasCode = hasCode || executable;
     }
     EXPECT_TRUE(hasCode);

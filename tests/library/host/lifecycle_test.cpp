@@ -124,9 +124,7 @@ TEST_F(Lifecycle, FeedingAfterTheHostDestroyedTheWindowIsHarmless)
 TEST_F(Lifecycle, TheRecordWorksOnAfterTheHostDestroyedTheWindow)
 {
     DestroyWindow(library.Create());
-    LM_Params params = Params();
-    params.brushSize = 33;
-    SetParams(params);
+    SetField(&LM_Params::brushSize, 33);
     EXPECT_EQ(Params().brushSize, 33U);
 }
 

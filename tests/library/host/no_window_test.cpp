@@ -45,16 +45,20 @@ protected:
     Hook<"DestroyWindow", decltype(DestroyWindow)> destroyed{library.Module()};
 };
 
-TEST_F(NoWindow, AfterFailedRegistrationCreateGivesNullAndTriesNoWindow)
+TEST_F(NoWindow, AfterFailedRegistrationThereIsNoWindowAndALaterCreateWorks)
 {
     classes.Fail(ATOM{0});
     EXPECT_EQ(library.Create(), nullptr);
     EXPECT_EQ(classes.Count(), 1U);
     EXPECT_EQ(windows.Count(), 0U);
     EXPECT_EQ(timer.Started().size(), 0U);
+    ExpectHarmlessInstance();
+    classes.PassOn();
+    ExpectWorkingInstance();
+    EXPECT_EQ(destroyed.Count(), 0U); // the instance before had no window
 }
 
-TEST_F(NoWindow, AfterFailedCreationCreateGivesNullAndSetsNothingUp)
+TEST_F(NoWindow, AfterFailedCreationNothingIsSetUpAndALaterCreateWorks)
 {
     Hook<"SetLayeredWindowAttributes", decltype(SetLayeredWindowAttributes)> layered(library.Module());
     library.SetDebugLevel(1); // would register the hotkey
@@ -64,20 +68,9 @@ TEST_F(NoWindow, AfterFailedCreationCreateGivesNullAndSetsNothingUp)
     EXPECT_EQ(layered.Count(), 0U);
     EXPECT_EQ(hotkeys.Count(), 0U);
     EXPECT_EQ(timer.Started().size(), 0U);
-}
-
-TEST_F(NoWindow, AfterFailedRegistrationTheInstanceStaysHarmless)
-{
-    classes.Fail(ATOM{0});
-    library.Create();
     ExpectHarmlessInstance();
-}
-
-TEST_F(NoWindow, AfterFailedCreationTheInstanceStaysHarmless)
-{
-    windows.Fail(HWND{nullptr});
-    library.Create();
-    ExpectHarmlessInstance();
+    windows.PassOn();
+    ExpectWorkingInstance();
 }
 
 TEST_F(NoWindow, DestroyingIsHarmlessAndPostsNoQuitMessage)
@@ -87,23 +80,6 @@ TEST_F(NoWindow, DestroyingIsHarmlessAndPostsNoQuitMessage)
     library.Destroy();
     EXPECT_EQ(destroyed.Count(), 0U);
     EXPECT_FALSE(test::PumpMessages());
-}
-
-TEST_F(NoWindow, ALaterCreateWorksAfterFailedRegistration)
-{
-    classes.Fail(ATOM{0});
-    library.Create();
-    classes.PassOn();
-    ExpectWorkingInstance();
-    EXPECT_EQ(destroyed.Count(), 0U); // the instance before had no window
-}
-
-TEST_F(NoWindow, ALaterCreateWorksAfterFailedCreation)
-{
-    windows.Fail(HWND{nullptr});
-    library.Create();
-    windows.PassOn();
-    ExpectWorkingInstance();
 }
 
 TEST_F(NoWindow, AFailingReplacementStillEndsTheFirstWindow)

@@ -14,8 +14,6 @@ namespace {
 
 using test::Sample;
 
-constexpr const wchar_t* ClassPrefix = L"Lumora Window Class_";
-
 struct Counts {
     std::size_t gdiObjects = 0;
     std::size_t kernelHandles = 0;
@@ -35,7 +33,7 @@ protected:
     Counts Count() const
     {
         test::PumpMessages();
-        return {test::GdiObjects(), test::KernelHandles(), test::WindowsOfClass(ClassPrefix).size(),
+        return {test::GdiObjects(), test::KernelHandles(), test::OverlayWindows().size(),
                 memory.HeldBlocks()};
     }
 
@@ -62,33 +60,35 @@ protected:
     }
 
     // What the process makes once is made before the first count.
-    void ExpectNoGrowth(int lives)
+    template <typename Work> void ExpectNoGrowth(int times, Work work)
     {
         constexpr int WarmUp = 3;
         for (int i = 0; i < WarmUp; ++i) {
-            LiveThroughOnce();
+            work();
         }
         const Counts before = Count();
-        for (int i = 0; i < lives; ++i) {
-            LiveThroughOnce();
+        for (int i = 0; i < times; ++i) {
+            work();
         }
         EXPECT_EQ(Count(), before);
     }
-
-    std::size_t RegisteredClasses() const
+    void ExpectNoGrowthOfLives(int lives)
     {
-        std::size_t count = 0;
-        for (unsigned number = 0; number < 0x10000; ++number) {
+        ExpectNoGrowth(lives, [this] { LiveThroughOnce(); });
+    }
+
+    // They have numbers from 0 on.
+    unsigned RegisteredClasses() const
+    {
+        for (unsigned number = 0;; ++number) {
             wchar_t name[64];
-            wsprintfW(name, L"%s%05d", ClassPrefix, number);
+            wsprintfW(name, L"Lumora Window Class_%05d", number);
             WNDCLASSEXW description{};
             description.cbSize = sizeof(description);
             if (GetClassInfoExW(library.Module(), name, &description) == 0) {
-                return count;
+                return number;
             }
-            ++count;
         }
-        return count;
     }
 
     test::MemoryStandIn memory{library.Module()};
@@ -98,40 +98,31 @@ TEST_F(ObjectCount, DoesNotGrowWithLivesUnderGDI)
 {
     CreateWithGDI();
     DestroyAndForget();
-    ExpectNoGrowth(500);
+    ExpectNoGrowthOfLives(500);
 }
 
-TEST_F(ObjectCount, DoesNotGrowWithLivesUnderDirectComposition) { ExpectNoGrowth(50); }
+TEST_F(ObjectCount, DoesNotGrowWithLivesUnderDirectComposition) { ExpectNoGrowthOfLives(50); }
 
 TEST_F(ObjectCount, DoesNotGrowWithLivesUnderDirect2D)
 {
-    library.Create();
-    Choose(test::ChooseDirect2D);
-    DestroyAndForget();
-    ExpectNoGrowth(50);
+    Select(test::ChooseDirect2D);
+    ExpectNoGrowthOfLives(50);
 }
 
 TEST_F(ObjectCount, DoesNotGrowWithLivesThatHaveAUserInterface)
 {
     library.SetDebugLevel(1);
-    ExpectNoGrowth(50);
+    ExpectNoGrowthOfLives(50);
     EXPECT_EQ(GlobalFindAtomW(L"Lumora Hotkey"), 0);
 }
 
 TEST_F(ObjectCount, DoesNotGrowWithReplacedInstances)
 {
     CreateWithGDI();
-    const auto replace = [&] {
+    ExpectNoGrowth(50, [this] {
         library.Create();
         Paint();
-    };
-    replace();
-    replace();
-    const Counts before = Count();
-    for (int i = 0; i < 50; ++i) {
-        replace();
-    }
-    EXPECT_EQ(Count(), before);
+    });
 }
 
 TEST_F(ObjectCount, DoesNotGrowWithFramesAndInput)
@@ -161,20 +152,16 @@ TEST_F(ObjectCount, DoesNotGrowWithScreenChanges)
         InputStroke();
         UpdateWindow(library.GetWindowHandle());
     };
-    follow(300);
-    follow(400);
-    const Counts before = Count();
-    for (int i = 0; i < 50; ++i) {
+    ExpectNoGrowth(50, [&] {
         follow(300);
         follow(400);
-    }
-    EXPECT_EQ(Count(), before);
+    });
 }
 
 TEST_F(ObjectCount, GrowsByOneClassForEachWindow)
 {
     LiveThroughOnce();
-    const std::size_t before = RegisteredClasses();
+    const unsigned before = RegisteredClasses();
     ASSERT_GT(before, 0U);
     for (int i = 0; i < 20; ++i) {
         LiveThroughOnce();
@@ -188,11 +175,7 @@ TEST_F(ObjectCount, ChangesOfTheBackEndLeaveNothingButTheirWindows)
     CreateWithGDI();
     const auto switchAndCloseLeftWindows = [&] {
         SwitchTimes(10);
-        for (const HWND window : test::WindowsOfClass(ClassPrefix)) {
-            if (window != library.GetWindowHandle()) {
-                DestroyWindow(window);
-            }
-        }
+        test::DestroyLeftWindows(library.GetWindowHandle());
         return Count();
     };
     switchAndCloseLeftWindows();

@@ -50,7 +50,7 @@ protected:
         ASSERT_NE(library.GetWindowHandle(), nullptr);
         SetParams(RedInk());
         clock.Advance(10 * Life);
-        library.InputPenDataArray(&nothing, 0);
+        InputNothing();
         ExpectNoInkInTheMiddle();
         InputStroke();
         ExpectInkInTheMiddle();
@@ -61,9 +61,6 @@ protected:
     }
 
     test::Backdrop backdrop{Desktop, Green};
-
-private:
-    LM_PenData nothing{};
 };
 
 } // namespace zq::LM

@@ -51,9 +51,7 @@ protected:
 TEST_F(InformationFactsTest, AreInEveryBarAndTextInItsPlace)
 {
     library.SetDebugLevel(1);
-    LM_Params params = Params();
-    params.inkDecayTime = 1000;
-    SetParams(params);
+    SetField(&LM_Params::inkDecayTime, 1000);
     Input({Sample(100, 100), Sample(101, 100, 0)});
     clock.Advance(10);
     Input({Sample(-17, 300, 1234)});     // the third sample in 10 ms

@@ -2,6 +2,7 @@
 // its colour beside it.
 #include "support/hook/hooks.h"
 #include "support/library/back_end_test.h"
+#include "support/row_name.h"
 
 namespace zq::LM::test {
 
@@ -104,8 +105,7 @@ TEST_P(InformationTest, TheFirstFrameOfAWindowMayCarryIt)
     EXPECT_TRUE(ShowsSomething({310, 32, 640, 56}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, InformationTest, testing::ValuesIn(AllBackEnds),
-                         [](const auto& each) { return std::string(each.param.name); });
+INSTANTIATE_TEST_SUITE_P(Each, InformationTest, testing::ValuesIn(AllBackEnds), RowName());
 
 class InformationOnGDI : public BackEndTest {
 protected:

@@ -17,8 +17,7 @@ TEST_F(BrushDataInTheDialog, AColourShowsInTheSwatchAndTheTexts)
     EXPECT_EQ(Text(EditHsv), "(210, 170,  51)");
     InvalidateRect(Dialog(), nullptr, TRUE);
     UpdateWindow(Dialog());
-    const SIZE swatch = Size(SwatchArea);
-    EXPECT_EQ(Seen(SwatchArea).Count(0x00332211), static_cast<std::size_t>(swatch.cx * swatch.cy));
+    EXPECT_TRUE(SwatchShows(0x00332211));
 }
 
 TEST_F(BrushDataInTheDialog, ABrushSizeAboveTheDialogsMostBecomesTheMost)

@@ -50,23 +50,17 @@ TEST_F(SettingsDialogTest, TheDefaultColourReads32)
 TEST_F(SettingsDialogTest, PureColoursReadAsTheirHues)
 {
     Open();
-    LM_Params params = Params();
-    const auto hsvOf = [&](std::uint32_t colour) {
-        params.inkColor = colour;
-        SetParams(params);
-        return Text(EditHsv);
-    };
-    EXPECT_EQ(hsvOf(0x000000FF), "(  0, 255, 255)");
-    EXPECT_EQ(hsvOf(0x0000FF00), "(120, 255, 255)");
-    EXPECT_EQ(hsvOf(0x00FF0000), "(240, 255, 255)");
+    for (const auto& [colour, shown] :
+         {std::pair(0x000000FFU, "(  0, 255, 255)"), std::pair(0x0000FF00U, "(120, 255, 255)"),
+          std::pair(0x00FF0000U, "(240, 255, 255)")}) {
+        SetField(&LM_Params::inkColor, colour);
+        EXPECT_EQ(Text(EditHsv), shown);
+    }
 }
 
 TEST_F(SettingsDialogTest, TextsTruncateWhereTheStoredColourRounds)
 {
-    LM_Params params = Params();
-    params.inkColor = 0x00C02040; // converts to a green of just under 32 and back
-    SetParams(params);
-    Open();
+    OpenWithColour(0x00C02040); // converts to a green of just under 32 and back
     EXPECT_EQ(Text(EditRgb), "( 64,  31, 192)");
     EXPECT_EQ(Record().inkColor, 0x00C02040U);
 }
@@ -115,13 +109,12 @@ TEST_F(SettingsDialogTest, EachCheckBoxChangesItsOwnFlag)
         {CheckOffset, &LM_Params::useOffset},
     };
     for (const auto& [id, flag] : boxes) {
-        LM_Params expected = Record();
-        expected.*flag = expected.*flag == 0 ? 1 : 0;
-        Click(id);
-        EXPECT_TRUE(Same(Record(), expected)) << id;
-        expected.*flag = expected.*flag == 0 ? 1 : 0;
-        Click(id);
-        EXPECT_TRUE(Same(Record(), expected)) << id;
+        for (int click = 1; click <= 2; ++click) {
+            LM_Params expected = Record();
+            expected.*flag = expected.*flag == 0 ? 1 : 0;
+            Click(id);
+            EXPECT_TRUE(Same(Record(), expected)) << id << ", click " << click;
+        }
     }
 }
 
@@ -226,9 +219,7 @@ TEST_F(SettingsDialogTest, ATrackbarsMoveStoresAllThree)
 
 TEST_F(SettingsDialogTest, WithALowerBoundAbove200TheOtherTrackbarsMove)
 {
-    LM_Params params = Params();
-    params.minBrushSize = 300;
-    SetParams(params);
+    SetField(&LM_Params::minBrushSize, 300);
     Open();
     MoveTrackbar(TrackbarInkLife, 700);
     EXPECT_EQ(Record().inkDecayTime, 700U);
@@ -271,11 +262,8 @@ TEST_F(SettingsDialogTest, HoldsTheHostsNumbersWithinItsLimitsWhileItIsOpen)
 
 TEST_F(SettingsDialogTest, LeavesTheHostsNumbersAloneWhileItIsClosed)
 {
-    Open();
-    Close();
-    LM_Params params = Params();
-    params.brushSize = 300;
-    SetParams(params);
+    OpenAndClose();
+    SetField(&LM_Params::brushSize, 300);
     EXPECT_EQ(Record().brushSize, 300U);
 }
 
@@ -296,12 +284,8 @@ TEST_F(SettingsDialogTest, CarriesTheReservedFields)
 
 TEST_F(SettingsDialogTest, BlackKeepsHueAndSaturation)
 {
-    LM_Params params = Params();
-    params.inkColor = 0x00FF0000;
-    SetParams(params);
-    Open();
-    params.inkColor = 0;
-    SetParams(params);
+    OpenWithColour(0x00FF0000);
+    SetField(&LM_Params::inkColor, 0);
     EXPECT_EQ(Text(EditHsv), "(240, 255,   0)");
     EXPECT_EQ(Text(EditRgb), "(  0,   0,   0)");
 }

@@ -14,8 +14,6 @@ namespace {
 
 using ::testing::IsEmpty;
 
-constexpr WPARAM OpenSettings = 40001;
-
 class DialogAndHost : public SettingsDialogTest {
 protected:
     // What the host does from within.
@@ -50,17 +48,6 @@ protected:
         }
     }
 
-    // The window of an instance that the act has left, painted by nobody.
-    static void DestroyLeftWindows(HWND living)
-    {
-        for (HWND window : WindowsOfClass(L"Lumora Window Class_")) {
-            if (window != living) {
-                DestroyWindow(window);
-            }
-        }
-        PumpMessages();
-    }
-
     static bool Ends(const std::string& act)
     {
         return act == "Destroy" || act == "Create" || act == "Rebuild";
@@ -81,10 +68,11 @@ protected:
         DestroyAndForget();
         Select(ChooseGDI);
         EXPECT_TRUE(IsWindow(library.Create()));
-        Choose(OpenSettings);
+        Choose(SettingsCommand);
         EXPECT_EQ(OpenDialogs().size(), 1U);
         DestroyAndForget();
         DestroyLeftWindows(nullptr);
+        PumpMessages();
         EXPECT_THAT(AllDialogs(), IsEmpty());
     }
 
@@ -152,11 +140,9 @@ private:
     void Use()
     {
         if (inUse == "Open") {
-            Choose(OpenSettings);
+            Choose(SettingsCommand);
         } else if (inUse == "Refresh") {
-            LM_Params params = Params();
-            params.brushSize = 33;
-            SetParams(params);
+            SetField(&LM_Params::brushSize, 33);
         } else if (inUse == "Slide") {
             MoveTrackbar(TrackbarInkLife, 300);
         } else if (inUse == "Check") {
@@ -288,7 +274,7 @@ TEST_P(DialogBeingMade, MayTakeTheActivationFromAWindowOfTheHost)
                               nullptr, nullptr, nullptr, nullptr);
     SetActiveWindow(host);
     g_test = this;
-    Choose(OpenSettings);
+    Choose(SettingsCommand);
     EXPECT_EQ(g_test, nullptr); // it has acted
     ExpectWorking(GetParam());
     DestroyWindow(host);
@@ -302,7 +288,7 @@ TEST_P(DialogBeingMade, MayRunCodeOfTheHostBeforeItKnowsItsWindow)
         HHOOK hook = SetWindowsHookExW(WH_CBT, ActWhenMade, nullptr, GetCurrentThreadId());
         g_windowsUntilAct = windows;
         g_test = this;
-        Choose(OpenSettings);
+        Choose(SettingsCommand);
         EXPECT_EQ(g_test, nullptr);
         UnhookWindowsHookEx(hook);
         ExpectWorking(GetParam());

@@ -47,8 +47,7 @@ TEST_F(SettingsDialogLife, OpeningItTwiceKeepsTheOneWindow)
 
 TEST_F(SettingsDialogLife, ClosingHidesItAndTheNextOpeningMakesANewOne)
 {
-    HWND first = Open();
-    Close();
+    HWND first = OpenAndClose();
     EXPECT_TRUE(IsWindow(first));
     EXPECT_FALSE(IsWindowVisible(first));
     HWND second = Open();
@@ -121,8 +120,7 @@ TEST_F(SettingsDialogLife, EnterAndEscapeChangeNothing)
 
 TEST_F(SettingsDialogLife, EndsWithTheInstance)
 {
-    HWND closed = Open();
-    Close();
+    HWND closed = OpenAndClose();
     HWND open = Open();
     DestroyAndForget();
     EXPECT_FALSE(IsWindow(open));
@@ -158,9 +156,7 @@ TEST_F(SettingsDialogLife, SurvivesTheOverlaysOwnEnd)
     Open();
     DestroyWindow(library.GetWindowHandle());
     PumpMessages();
-    LM_Params params = Params();
-    params.brushSize = 40;
-    SetParams(params); // refreshes what is gone
+    SetField(&LM_Params::brushSize, 40); // refreshes what is gone
     EXPECT_EQ(Record().brushSize, 40U);
 }
 
@@ -169,7 +165,7 @@ TEST_F(SettingsDialogLife, CanBeOpenedAfterItCouldNotBeMade)
     {
         Hook<"CreateDialogParamW", decltype(CreateDialogParamW)> making(library.Module());
         making.Fail(HWND{});
-        Choose(40001);
+        Choose(SettingsCommand);
         EXPECT_EQ(making.Count(), 1U);
     }
     EXPECT_THAT(AllDialogs(), IsEmpty());
@@ -192,9 +188,7 @@ TEST_F(SettingsDialogLife, DoesWithoutControls)
     for (const int id : {SwatchArea, ValueBarArea, WheelArea, EditRgb, EditHsv, EditBrushSize, CheckLine}) {
         DestroyWindow(Control(id));
     }
-    LM_Params params = Params();
-    params.inkColor = 0x00123456;
-    SetParams(params);
+    SetField(&LM_Params::inkColor, 0x00123456);
     InvalidateRect(Dialog(), nullptr, TRUE);
     UpdateWindow(Dialog());
     SendMessageW(Dialog(), WM_LBUTTONDOWN, 0, 0);
@@ -220,7 +214,7 @@ TEST_F(SettingsDialogLife, OfTwoHundredClosedDialogsOneIsKept)
         if (painted) {
             Open();
         } else {
-            Choose(40001);
+            Choose(SettingsCommand);
         }
         Input({Sample(100, 100), Sample(140, 120)});
         UpdateWindow(library.GetWindowHandle());
@@ -244,8 +238,7 @@ TEST_F(SettingsDialogLife, OfTwoHundredClosedDialogsOneIsKept)
 
 TEST_F(SettingsDialogLife, TheKeptDialogIsTheOneThatWasClosedLast)
 {
-    HWND first = Open();
-    Close();
+    HWND first = OpenAndClose();
     HWND second = Open();
     EXPECT_TRUE(IsWindow(first));
     Close();
@@ -256,33 +249,28 @@ TEST_F(SettingsDialogLife, TheKeptDialogIsTheOneThatWasClosedLast)
 
 TEST_F(SettingsDialogLife, AKeptDialogOfAnEarlierBackEndGoesWithTheNextClose)
 {
-    HWND old = Open();
-    Close();
+    HWND old = OpenAndClose();
     Rebuild();
     EXPECT_TRUE(IsWindow(old));
-    HWND later = Open();
-    Close();
+    HWND later = OpenAndClose();
     EXPECT_THAT(AllDialogs(), ElementsAre(later));
 }
 
 TEST_F(SettingsDialogLife, AKeptDialogThatTheHostDestroysIsForgotten)
 {
-    DestroyWindow((Open(), Close(), Dialog()));
+    DestroyWindow(OpenAndClose());
     Hook<"DestroyWindow", decltype(DestroyWindow)> destroying(library.Module());
-    Open();
-    Close();
+    OpenAndClose();
     EXPECT_EQ(destroying.Count(), 0U);
 }
 
 TEST_F(SettingsDialogLife, AKeptDialogThatWentWithItsOverlayIsForgotten)
 {
-    Open();
-    Close();
+    OpenAndClose();
     DestroyAndForget();
     CreateWithGDI();
     Hook<"DestroyWindow", decltype(DestroyWindow)> destroying(library.Module());
-    Open();
-    Close();
+    OpenAndClose();
     EXPECT_EQ(destroying.Count(), 0U);
 }
 
@@ -294,13 +282,10 @@ TEST_F(SettingsDialogLife, AKeptDialogThatCannotBeDestroyedIsLeft)
         refused.push_back(window);
         return FALSE;
     });
-    HWND left = Open();
-    Close();
-    Open();
-    Close();
+    HWND left = OpenAndClose();
+    OpenAndClose();
     EXPECT_THAT(refused, ElementsAre(left));
-    Open();
-    Close();
+    OpenAndClose();
     EXPECT_THAT(refused, ElementsAre(left, testing::Ne(left))); // not the same one again
 }
 
@@ -308,8 +293,7 @@ TEST_F(SettingsDialogLife, LeavesNothingWhenTheInstanceEnds)
 {
     const auto liveOnce = [this] {
         CreateWithGDI();
-        Open();
-        Close();
+        OpenAndClose();
         Open();
         DestroyAndForget();
     };

@@ -32,14 +32,6 @@ protected:
     }
     void LetGo() const { SendMessageW(Dialog(), WM_LBUTTONUP, 0, 0); }
 
-    void OpenWithColour(COLORREF colour)
-    {
-        LM_Params params = Params();
-        params.inkColor = colour;
-        SetParams(params);
-        Open();
-    }
-
     ShownHsv Shown() const
     {
         ShownHsv shown{};
@@ -213,8 +205,7 @@ TEST_F(SettingsPicker, AReleaseOutsideTheDialogEndsTheDrag)
         mouse_event(button, 0, 0, 0, 0);
         SettleScreen();
     };
-    RECT place{};
-    GetWindowRect(Dialog(), &place);
+    const RECT place = PlaceOf(Dialog());
     point(FromMiddle(WheelArea, 30, 0), MOUSEEVENTF_LEFTDOWN);
     const std::uint32_t dragged = Record().inkColor;
     ASSERT_NE(dragged, 0x00FFFFFFU);
@@ -260,12 +251,9 @@ TEST_F(SettingsPicker, ClosingEndsTheDrag)
 TEST_F(SettingsPicker, TheSwatchIsAsTheRecord)
 {
     OpenWithColour(0x00804020);
-    const SIZE size = Size(SwatchArea);
-    EXPECT_EQ(Seen(SwatchArea).Count(0x00804020), static_cast<std::size_t>(size.cx * size.cy));
-    LM_Params params = Params();
-    params.inkColor = 0x00112233;
-    SetParams(params);
-    EXPECT_EQ(Seen(SwatchArea).Count(0x00112233), static_cast<std::size_t>(size.cx * size.cy));
+    EXPECT_TRUE(SwatchShows(0x00804020));
+    SetField(&LM_Params::inkColor, 0x00112233);
+    EXPECT_TRUE(SwatchShows(0x00112233));
 }
 
 // What is on the screen where no marker lies.
@@ -314,9 +302,7 @@ TEST_F(PicturesOnTheScreen, AreSeenAfterEachOfTheHostsColours)
 {
     OpenWithColour(0x00804020);
     for (const COLORREF colour : {0x000000FFU, 0x0000C000U, 0x00FFFFFFU, 0x00010203U}) {
-        LM_Params params = Params();
-        params.inkColor = colour;
-        SetParams(params);
+        SetField(&LM_Params::inkColor, colour);
         ExpectBoth();
     }
 }
@@ -331,28 +317,12 @@ TEST_F(PicturesOnTheScreen, AreSeenAfterADrag)
     ExpectBoth();
 }
 
-TEST_F(PicturesOnTheScreen, AreSeenAgainAfterTheDialogWasCovered)
+TEST_F(PicturesOnTheScreen, AreSeenAgainAfterTheDialogOrOneOfThemWasCovered)
 {
     OpenWithColour(0x00804020);
-    RECT place{};
-    GetWindowRect(Dialog(), &place);
-    {
-        const Backdrop cover(place, 0x00FF0000);
-        SetWindowPos(cover.Window(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        SettleScreen();
-    }
-    SettleScreen();
-    ExpectBoth();
-}
-
-TEST_F(PicturesOnTheScreen, AreSeenAgainAfterOneWasCovered)
-{
-    OpenWithColour(0x00804020);
-    for (const int id : {WheelArea, ValueBarArea}) {
-        RECT place{};
-        GetWindowRect(Control(id), &place);
+    for (HWND covered : {Dialog(), Control(WheelArea), Control(ValueBarArea)}) {
         {
-            const Backdrop cover(place, 0x00FF0000);
+            const Backdrop cover(PlaceOf(covered), 0x00FF0000);
             SetWindowPos(cover.Window(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
             SettleScreen();
         }

@@ -70,8 +70,7 @@ TEST_F(SettingsByMouse, CloseBoxClosesIt)
     SendMessageW(Dialog(), WM_GETTITLEBARINFOEX, 0, reinterpret_cast<LPARAM>(&bar));
     RECT box = bar.rgrect[5];
     if (IsRectEmpty(&box)) { // a system that does not say: the right end of the caption
-        RECT place{};
-        GetWindowRect(Dialog(), &place);
+        const RECT place = PlaceOf(Dialog());
         const LONG frame = GetSystemMetrics(SM_CYDLGFRAME);
         const LONG caption = GetSystemMetrics(SM_CYCAPTION);
         box = {place.right - frame - caption, place.top + frame, place.right - frame,
@@ -90,10 +89,8 @@ protected:
     {
         shell.Move(WholeScreen);
         CreateWithGDI();
-        LM_Params params = Params();
-        params.brushSize = 20;
-        params.usePressure = 0;
-        SetParams(params);
+        SetField(&LM_Params::brushSize, 20);
+        SetField(&LM_Params::usePressure, 0);
     }
 
     // Away from the dialog, from the found colour and from the tray.

@@ -70,8 +70,7 @@ protected:
     // In the dialog's client area.
     RECT Place(int id) const
     {
-        RECT place{};
-        GetWindowRect(Control(id), &place);
+        RECT place = PlaceOf(Control(id));
         MapWindowPoints(nullptr, Dialog(), reinterpret_cast<POINT*>(&place), 2);
         return place;
     }

@@ -10,8 +10,7 @@ namespace zq::LM::test {
 
 HWND SettingsDialogTest::Open()
 {
-    constexpr WPARAM OpenSettings = 40001;
-    Choose(OpenSettings);
+    Choose(SettingsCommand);
     const std::vector<HWND> open = OpenDialogs();
     dialog = open.size() == 1 ? open.front() : nullptr;
     if (dialog == nullptr) {
@@ -20,6 +19,19 @@ HWND SettingsDialogTest::Open()
     UpdateWindow(dialog);
     SettleScreen();
     return dialog;
+}
+
+HWND SettingsDialogTest::OpenAndClose()
+{
+    Open();
+    Close();
+    return dialog;
+}
+
+void SettingsDialogTest::OpenWithColour(COLORREF colour)
+{
+    SetField(&LM_Params::inkColor, colour);
+    Open();
 }
 
 std::vector<HWND> SettingsDialogTest::AllDialogs()
@@ -56,8 +68,7 @@ void SettingsDialogTest::MoveTrackbar(int trackbar, int position) const
 
 LM_Params SettingsDialogTest::Record() const
 {
-    const LM_PenData unused = Sample(1, 1);
-    library.InputPenDataArray(&unused, 0);
+    InputNothing();
     return Params();
 }
 
@@ -87,6 +98,12 @@ Picture SettingsDialogTest::Seen(int id) const
     const SIZE size = Size(id);
     const POINT corner = OnScreen(id, 0, 0);
     return TakePicture({corner.x, corner.y, corner.x + size.cx, corner.y + size.cy});
+}
+
+bool SettingsDialogTest::SwatchShows(COLORREF colour) const
+{
+    const SIZE size = Size(SwatchArea);
+    return Seen(SwatchArea).Count(colour) == static_cast<std::size_t>(size.cx * size.cy);
 }
 
 bool SettingsDialogTest::PumpUntil(const std::function<bool()>& condition)

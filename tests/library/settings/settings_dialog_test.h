@@ -22,6 +22,8 @@ protected:
     HWND Open();
     HWND Dialog() const { return dialog; }
     void Close() const { SendMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); }
+    HWND OpenAndClose();
+    void OpenWithColour(COLORREF colour);
 
     // The library's dialog windows of this thread: all, or those that are not hidden.
     static std::vector<HWND> AllDialogs();
@@ -48,6 +50,7 @@ protected:
     POINT FromMiddle(int id, int dx, int dy) const;
 
     Picture Seen(int id) const; // at screen coordinates
+    bool SwatchShows(COLORREF colour) const;
 
     // Dispatches what comes in until the condition holds; false when it never does.
     static bool PumpUntil(const std::function<bool()>& condition);

@@ -42,14 +42,21 @@ protected:
         return has("zq::CallFunc::GetElmSize\n") ? 1 : 0;
     }
 
-    // What the command asks of the save dialog, which answers as if the file had been chosen or not.
-    void AnswerSaveDialog(BOOL answer)
+    Lines TextsOf(WPARAM command)
     {
-        calls.Answer<"GetSaveFileNameA">(GetSaveFileNameA, [this, answer](OPENFILENAMEA* offered) {
+        debugger.Clear();
+        Command(command);
+        return debugger.Texts();
+    }
+
+    // What the command asks of the save dialog, which answers as if the file had been chosen or not.
+    void AnswerSaveDialog(BOOL answer, const std::function<void()>& whileOpen = nullptr)
+    {
+        calls.Answer<"GetSaveFileNameA">(GetSaveFileNameA, [this, answer, whileOpen](OPENFILENAMEA* offered) {
             request = *offered;
             offeredName = offered->lpstrFile;
-            if (whileDialogIsOpen) {
-                whileDialogIsOpen();
+            if (whileOpen) {
+                whileOpen();
             }
             lstrcpyA(offered->lpstrFile, "lumora-rates-test.csv");
             return answer;
@@ -58,7 +65,6 @@ protected:
 
     OPENFILENAMEA request{};
     std::string offeredName;
-    std::function<void()> whileDialogIsOpen;
 };
 
 TEST_F(CommandsTest, EachLevelCommandSetsItsLevel)
@@ -76,18 +82,10 @@ TEST_F(CommandsTest, ALevelCommandsFirstLineIsAtTheOldLevelAndTheRestAtTheNew)
 {
     CreateWithTray();
     Command(40010);
-    debugger.Clear();
-    Command(40014);
-    EXPECT_EQ(debugger.Texts(), (Lines{"InvalidateRect is called.\n", "done\n"}));
-    debugger.Clear();
-    Command(40011);
-    EXPECT_EQ(debugger.Texts(), Lines{"WM_COMMAND ... "});
-    debugger.Clear();
-    Command(40012);
-    EXPECT_EQ(debugger.Texts(), (Lines{"InvalidateRect is called.\n", "done\n"}));
-    debugger.Clear();
-    Command(40013);
-    EXPECT_EQ(debugger.Texts(), LinesOfCommand);
+    EXPECT_EQ(TextsOf(40014), (Lines{"InvalidateRect is called.\n", "done\n"}));
+    EXPECT_EQ(TextsOf(40011), Lines{"WM_COMMAND ... "});
+    EXPECT_EQ(TextsOf(40012), (Lines{"InvalidateRect is called.\n", "done\n"}));
+    EXPECT_EQ(TextsOf(40013), LinesOfCommand);
 }
 
 TEST_F(CommandsTest, EveryCommandRepaintsBeforeItMarksAndEndsWithItsLine)
@@ -168,11 +166,10 @@ TEST_F(CommandsTest, TheSettingsCommandOpensTheOverlaysDialog)
 TEST_F(CommandsTest, SavingAsksForAFile)
 {
     CreateWithTray(Normal);
-    AnswerSaveDialog(FALSE);
-    whileDialogIsOpen = [this] {
+    AnswerSaveDialog(FALSE, [this] {
         const std::string_view filter("Text files {*.csv}\0*.csv\0", 26);
         EXPECT_EQ(std::string_view(request.lpstrFilter, filter.size()), filter);
-    };
+    });
     EXPECT_EQ(Command(SaveCommand), 0);
     EXPECT_EQ(request.lStructSize, sizeof(request));
     EXPECT_EQ(request.hwndOwner, window);
@@ -197,8 +194,7 @@ TEST_F(CommandsTest, SavingWritesNoFileWhateverIsChosen)
 TEST_F(CommandsTest, TheDialogIsOpenBetweenTheFirstLineAndTheRepaint)
 {
     CreateWithTray(Normal);
-    AnswerSaveDialog(FALSE);
-    whileDialogIsOpen = [this] { EXPECT_EQ(debugger.Texts(), Lines{"WM_COMMAND ... "}); };
+    AnswerSaveDialog(FALSE, [this] { EXPECT_EQ(debugger.Texts(), Lines{"WM_COMMAND ... "}); });
     Command(SaveCommand);
     EXPECT_EQ(debugger.Texts(), LinesOfCommand);
 }
@@ -208,12 +204,11 @@ TEST_F(CommandsTest, AnInstanceThatEndsWhileTheDialogIsOpenIsTouchedNoMore)
 {
     const FreedMemory freed(library.Module());
     CreateWithTray(Normal);
-    AnswerSaveDialog(FALSE);
-    whileDialogIsOpen = [this] {
+    AnswerSaveDialog(FALSE, [this] {
         library.Destroy();
         calls.Take();
         debugger.Clear();
-    };
+    });
     RecordInvalidations();
     EXPECT_EQ(Command(SaveCommand), 0);
     EXPECT_EQ(calls.Take(), Lines{});
@@ -226,8 +221,7 @@ TEST_F(CommandsTest, ARebuildWhileTheDialogIsOpenIsHarmless)
 {
     CreateWithTray();
     Command(ChooseDirect2D);
-    AnswerSaveDialog(FALSE);
-    whileDialogIsOpen = [this] { InputStroke(); };
+    AnswerSaveDialog(FALSE, [this] { InputStroke(); });
     Command(SaveCommand);
     HWND rebuilt = library.GetWindowHandle();
     EXPECT_TRUE(IsWindow(rebuilt));
@@ -236,26 +230,19 @@ TEST_F(CommandsTest, ARebuildWhileTheDialogIsOpenIsHarmless)
     EXPECT_EQ(Marked(), (std::vector<UINT>{40013, 40021}));
 }
 
-TEST_F(CommandsTest, AWindowLeftWhileTheDialogIsOpenIsNotRepainted)
+TEST_F(CommandsTest, AWindowLeftOrClosedWhileTheDialogIsOpenIsNotRepainted)
 {
     CreateWithTray();
     Command(ChooseDirect2D);
-    AnswerSaveDialog(FALSE);
-    whileDialogIsOpen = [this] {
-        InputStroke();
-        calls.Take();
-    };
     RecordInvalidations();
+    AnswerSaveDialog(FALSE, [this] {
+        InputStroke(); // leaves it
+        calls.Take();
+    });
     Command(SaveCommand);
     EXPECT_EQ(Invalidations(), 0U);
-}
-
-TEST_F(CommandsTest, AWindowClosedWhileTheDialogIsOpenIsNotRepainted)
-{
-    CreateWithTray(Normal);
-    AnswerSaveDialog(FALSE);
-    whileDialogIsOpen = [this] { SendMessageW(window, WM_CLOSE, 0, 0); };
-    RecordInvalidations();
+    window = library.GetWindowHandle();
+    AnswerSaveDialog(FALSE, [this] { SendMessageW(window, WM_CLOSE, 0, 0); });
     Command(SaveCommand);
     EXPECT_EQ(Invalidations(), 0U);
 }

@@ -73,29 +73,37 @@ protected:
         return {first, first + data[2]};
     }
 
-    // How opaque each pixel of the icon's picture of this size is.
+    // The icon's picture of this size.
+    struct LoadedPicture {
+        LoadedPicture(HMODULE file, int size)
+            : icon(static_cast<HICON>(LoadImageW(file, MAKEINTRESOURCEW(5), IMAGE_ICON, size, size, 0)))
+        {
+            EXPECT_TRUE(GetIconInfo(icon, &parts));
+            GetObjectW(parts.hbmColor, sizeof(bitmap), &bitmap);
+        }
+        ~LoadedPicture()
+        {
+            DeleteObject(parts.hbmColor);
+            DeleteObject(parts.hbmMask);
+            DestroyIcon(icon);
+        }
+        LoadedPicture(const LoadedPicture&) = delete;
+        LoadedPicture& operator=(const LoadedPicture&) = delete;
+
+        HICON icon;
+        ICONINFO parts{};
+        BITMAP bitmap{};
+    };
+
+    // How opaque each pixel of the picture is.
     std::vector<std::uint8_t> Opacities(int size) const
     {
-        auto* icon = static_cast<HICON>(LoadImageW(file, MAKEINTRESOURCEW(5), IMAGE_ICON, size, size, 0));
-        ICONINFO parts{};
-        EXPECT_TRUE(GetIconInfo(icon, &parts));
-        BITMAP bitmap{};
-        GetObjectW(parts.hbmColor, sizeof(bitmap), &bitmap);
-        EXPECT_EQ(bitmap.bmWidth, size);
-        EXPECT_EQ(bitmap.bmHeight, size);
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = size;
-        info.bmiHeader.biHeight = -size;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
+        const LoadedPicture picture(file, size);
+        EXPECT_EQ(picture.bitmap.bmWidth, size);
+        EXPECT_EQ(picture.bitmap.bmHeight, size);
+        EXPECT_EQ(picture.bitmap.bmBitsPixel, 32);
         std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size) * static_cast<std::size_t>(size));
-        HDC dc = GetDC(nullptr);
-        GetDIBits(dc, parts.hbmColor, 0, static_cast<UINT>(size), pixels.data(), &info, DIB_RGB_COLORS);
-        ReleaseDC(nullptr, dc);
-        DeleteObject(parts.hbmColor);
-        DeleteObject(parts.hbmMask);
-        DestroyIcon(icon);
+        GetBitmapBits(picture.parts.hbmColor, static_cast<LONG>(pixels.size() * 4), pixels.data());
         std::vector<std::uint8_t> opacities(pixels.size());
         std::transform(pixels.begin(), pixels.end(), opacities.begin(),
                        [](std::uint32_t pixel) { return static_cast<std::uint8_t>(pixel >> 24); });
@@ -147,15 +155,7 @@ TEST_F(ResourcesTest, EachPictureFadesFromAnOpaqueHead)
 
 TEST_F(ResourcesTest, WithoutASizeTheSmallestPictureIsLoaded)
 {
-    auto* icon = static_cast<HICON>(LoadImageW(file, MAKEINTRESOURCEW(5), IMAGE_ICON, 0, 0, 0));
-    ICONINFO parts{};
-    ASSERT_TRUE(GetIconInfo(icon, &parts));
-    BITMAP bitmap{};
-    GetObjectW(parts.hbmColor, sizeof(bitmap), &bitmap);
-    EXPECT_EQ(bitmap.bmWidth, 16);
-    DeleteObject(parts.hbmColor);
-    DeleteObject(parts.hbmMask);
-    DestroyIcon(icon);
+    EXPECT_EQ(LoadedPicture(file, 0).bitmap.bmWidth, 16);
 }
 
 } // namespace zq::LM::test

@@ -15,6 +15,13 @@ const Lines PopUp = {"GetSubMenu(menu, 0)", "GetCursorPos(*)", "SetForegroundWin
 
 class TrayMessageTest : public TrayTest {
 protected:
+    static Lines WithPopUp(Lines lines, const Lines& after)
+    {
+        lines.insert(lines.end(), PopUp.begin(), PopUp.end());
+        lines.insert(lines.end(), after.begin(), after.end());
+        return lines;
+    }
+
     // The window's events as they are noted, with the pop-up among the lines.
     Lines TakeWithLog(UINT message, LPARAM event)
     {
@@ -24,43 +31,32 @@ protected:
     }
 };
 
-TEST_F(TrayMessageTest, TheLeftButtonOpensTheMenuAtTheCursor)
+TEST_F(TrayMessageTest, TheLeftAndTheRightButtonOpenTheMenuAtTheCursor)
 {
     CreateWithTray(Normal);
-    EXPECT_EQ(SendMouse(WM_LBUTTONDOWN), 0);
-    EXPECT_EQ(calls.Take(), PopUp);
-    EXPECT_EQ(debugger.Texts(), LinesOfMouse);
-}
-
-TEST_F(TrayMessageTest, TheRightButtonOpensTheMenuAtTheCursor)
-{
-    CreateWithTray(Normal);
-    EXPECT_EQ(SendMouse(WM_RBUTTONDOWN), 0);
-    EXPECT_EQ(calls.Take(), PopUp);
-    EXPECT_EQ(debugger.Texts(), LinesOfMouse);
+    for (const UINT button : {WM_LBUTTONDOWN, WM_RBUTTONDOWN}) {
+        debugger.Clear();
+        EXPECT_EQ(SendMouse(button), 0) << button;
+        EXPECT_EQ(calls.Take(), PopUp) << button;
+        EXPECT_EQ(debugger.Texts(), LinesOfMouse) << button;
+    }
 }
 
 TEST_F(TrayMessageTest, TheMenuIsOpenBetweenTheTwoLines)
 {
     CreateWithTray(Normal);
     whileMenuIsOpen = [this] { calls.Log().AddLine("open"); };
-    const Lines lines = TakeWithLog(TrayMessage, WM_LBUTTONDOWN);
-    EXPECT_EQ(lines.front(), "log: WM_USER_DEF_TRAY_MESSAGE ... ");
-    EXPECT_EQ(lines[lines.size() - 2], "open");
-    EXPECT_EQ(lines.back(), "log: done.\n");
+    EXPECT_EQ(TakeWithLog(TrayMessage, WM_LBUTTONDOWN),
+              WithPopUp({"log: WM_USER_DEF_TRAY_MESSAGE ... "}, {"open", "log: done.\n"}));
 }
 
 TEST_F(TrayMessageTest, TheHotkeysMenuIsOpenBetweenItsLines)
 {
     CreateWithTray(Normal);
     whileMenuIsOpen = [this] { calls.Log().AddLine("open"); };
-    const Lines lines = TakeWithLog(WM_HOTKEY, MAKELPARAM(7, 0x57));
-    ASSERT_EQ(lines.size(), PopUp.size() + 1 + LinesOfHotkey.size());
-    EXPECT_EQ(lines[0], "log: WM_HOTKEY ... ");
-    EXPECT_EQ(lines[1], "log: WM_USER_DEF_TRAY_MESSAGE ... ");
-    EXPECT_EQ(lines[lines.size() - 3], "open");
-    EXPECT_EQ(lines[lines.size() - 2], "log: done.\n");
-    EXPECT_EQ(lines[lines.size() - 1], "log: done.\n");
+    EXPECT_EQ(TakeWithLog(WM_HOTKEY, MAKELPARAM(7, 0x57)),
+              WithPopUp({"log: WM_HOTKEY ... ", "log: WM_USER_DEF_TRAY_MESSAGE ... "},
+                        {"open", "log: done.\n", "log: done.\n"}));
 }
 
 TEST_F(TrayMessageTest, ADoubleClickDoesNothing)

@@ -18,13 +18,32 @@ Lines Concat(std::initializer_list<Lines> parts)
     return all;
 }
 
-const Lines IconAndMenu = {"LoadImageW(module, #5, 1, 0, 0, 0)", "Shell_NotifyIconW(0, *)",
-                           "LoadMenuW(module, \"IDR_MENU_LUMORA_CORE_TASKTRAY\")"};
-
-// Those of a level and of a back-end.
-Lines Marks(int ofLevel, int ofType)
+// Up to the place where the tray begins, for a class of this number and the window that is asked for.
+Lines UntilTheTray(const std::string& lookup, int number, const std::string& style)
 {
-    return {"CheckMenuRadioItem(menu, 40010, 40014, " + std::to_string(ofLevel) + ", 0)",
+    const std::string name = "\"Lumora Window Class_0000" + std::to_string(number) + "\"";
+    return {"log: zq::CallFunc::Create\n",
+            "log: " + VersionLine(),
+            "log: DirectCompositionImpl(Constructor)\n",
+            "log: zq::LM::GDI::GDI(Constructor)\n",
+            "LoadImageW(null, #32512, 2, 0, 0, 32832)",
+            "RegisterClassExW(" + name + ")",
+            lookup,
+            "CreateWindowExW(" + style + ", " + name +
+                ", \"Lumora DLL Window\", 0x90000000, 200, 60, 640, 480, null, null, module, null)",
+            "log: WM_CREATE ... "};
+}
+
+const Lines TrayAndMeasures = {"LoadImageW(module, #5, 1, 0, 0, 0)",
+                               "Shell_NotifyIconW(0, *)",
+                               "LoadMenuW(module, \"IDR_MENU_LUMORA_CORE_TASKTRAY\")",
+                               "GetDC(window 1)",
+                               "GetDeviceCaps(dc of window 1, 4)",
+                               "GetDeviceCaps(dc of window 1, 6)"};
+
+Lines Marks(std::uint32_t level, int ofType)
+{
+    return {"CheckMenuRadioItem(menu, 40010, 40014, " + std::string(level == 3 ? "40013" : "40014") + ", 0)",
             "CheckMenuRadioItem(menu, 40020, 40022, " + std::to_string(ofType) + ", 0)"};
 }
 
@@ -54,6 +73,7 @@ protected:
         });
     }
 
+    Lines LinesOfACreation(std::uint32_t level);
     void ExpectOrderForGDI(std::uint32_t level);
     void ExpectOrderForDirectComposition(std::uint32_t level);
 
@@ -108,9 +128,7 @@ TEST_F(CreationTest, WindowsOfTheOtherTypesArePlainTopmostToolWindows)
 TEST_F(CreationTest, TheWindowCoversTheShellsDesktop)
 {
     HWND window = library.Create();
-    RECT place{};
-    GetWindowRect(window, &place);
-    EXPECT_TRUE(EqualRect(&place, &Desktop));
+    EXPECT_TRUE(IsAt(window, Desktop));
     EXPECT_TRUE(IsWindowVisible(window));
     EXPECT_EQ(GetParent(window), nullptr);
     wchar_t title[64]{};
@@ -133,26 +151,19 @@ TEST_F(CreationTest, TheWindowIsLayeredAndLetsTheMouseThrough)
     EXPECT_EQ(flags, 3U);
 }
 
+Lines CreationTest::LinesOfACreation(std::uint32_t level)
+{
+    library.SetDebugLevel(level);
+    RecordCreation();
+    RecordHotkey(false);
+    calls.RecordLog();
+    library.Create();
+    return calls.Take();
+}
+
 void CreationTest::ExpectOrderForGDI(std::uint32_t level)
 {
     const std::string lookup = "log: Rendering type is DirectGDI.\n";
-    const Lines untilTheTray = {
-        "log: zq::CallFunc::Create\n",
-        "log: " + VersionLine(),
-        "log: DirectCompositionImpl(Constructor)\n",
-        "log: zq::LM::GDI::GDI(Constructor)\n",
-        "LoadImageW(null, #32512, 2, 0, 0, 32832)",
-        "RegisterClassExW(\"Lumora Window Class_00001\")",
-        lookup,
-        "CreateWindowExW(136, \"Lumora Window Class_00001\", \"Lumora DLL Window\", 0x90000000, 200, 60, "
-        "640, 480, null, null, module, null)",
-        "log: WM_CREATE ... ",
-    };
-    const Lines measured = {
-        "GetDC(window 1)",
-        "GetDeviceCaps(dc of window 1, 4)",
-        "GetDeviceCaps(dc of window 1, 6)",
-    };
     const Lines untilTheFrame = {
         "SetTimer(window 1, 12345, 50, null)",
         "log: done\n",
@@ -181,36 +192,14 @@ void CreationTest::ExpectOrderForGDI(std::uint32_t level)
         "ReleaseDC(window 1, dc of window 1)",
     };
     SelectGDI();
-    library.SetDebugLevel(level);
-    RecordCreation();
-    RecordHotkey(false);
-    calls.RecordLog();
-    library.Create();
-    EXPECT_EQ(calls.Take(),
-              Concat({untilTheTray, IconAndMenu, measured, Marks(level == 3 ? 40013 : 40014, 40022),
-                      untilTheFrame, EmptyFrame(lookup, level), afterTheFrame}));
+    EXPECT_EQ(LinesOfACreation(level),
+              Concat({UntilTheTray(lookup, 1, "136"), TrayAndMeasures, Marks(level, 40022), untilTheFrame,
+                      EmptyFrame(lookup, level), afterTheFrame}));
 }
 
 void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
 {
     const std::string lookup = "log: Rendering type is Direct Composition.\n";
-    const Lines untilTheTray = {
-        "log: zq::CallFunc::Create\n",
-        "log: " + VersionLine(),
-        "log: DirectCompositionImpl(Constructor)\n",
-        "log: zq::LM::GDI::GDI(Constructor)\n",
-        "LoadImageW(null, #32512, 2, 0, 0, 32832)",
-        "RegisterClassExW(\"Lumora Window Class_00000\")",
-        lookup,
-        "CreateWindowExW(0x200088, \"Lumora Window Class_00000\", \"Lumora DLL Window\", 0x90000000, 200, "
-        "60, 640, 480, null, null, module, null)",
-        "log: WM_CREATE ... ",
-    };
-    const Lines measured = {
-        "GetDC(window 1)",
-        "GetDeviceCaps(dc of window 1, 4)",
-        "GetDeviceCaps(dc of window 1, 6)",
-    };
     const Lines untilTheFrame = {
         "SetTimer(window 1, 12345, 50, null)",
         "log: done\n",
@@ -221,19 +210,10 @@ void CreationTest::ExpectOrderForDirectComposition(std::uint32_t level)
         "log: InitTransparentWindowCore_ is failed.",
         "log: Exception is thrown!\n",
     };
-    const Lines afterTheFrame = {
-        lookup,
-        "GlobalAddAtomW(\"Lumora Hotkey\")",
-        "RegisterHotKey(window 1, 49443, 7, 87)",
-        lookup,
-    };
-    library.SetDebugLevel(level);
-    RecordCreation();
-    RecordHotkey(false);
-    calls.RecordLog();
-    library.Create();
-    EXPECT_EQ(calls.Take(),
-              Concat({untilTheTray, IconAndMenu, measured, Marks(level == 3 ? 40013 : 40014, 40020),
+    const Lines afterTheFrame = {lookup, "GlobalAddAtomW(\"Lumora Hotkey\")",
+                                 "RegisterHotKey(window 1, 49443, 7, 87)", lookup};
+    EXPECT_EQ(LinesOfACreation(level),
+              Concat({UntilTheTray(lookup, 0, "0x200088"), TrayAndMeasures, Marks(level, 40020),
                       untilTheFrame, EmptyFrame(lookup, level), afterTheFrame}));
 }
 

@@ -28,13 +28,6 @@ protected:
         calls.Take();
     }
 
-    void SetLife(std::uint32_t milliseconds)
-    {
-        LM_Params params = Params();
-        params.inkDecayTime = milliseconds;
-        SetParams(params);
-    }
-
     std::size_t InkPixels() const { return TakePicture(StrokePlace).Count(Ink); }
 };
 
@@ -49,8 +42,7 @@ TEST_F(FrameCycleTest, InputRepaintsOnceWithoutErasing)
 TEST_F(FrameCycleTest, InputOfNoSamplesRepaintsToo)
 {
     CreateQuiet();
-    const LM_PenData unused{};
-    library.InputPenDataArray(&unused, 0);
+    InputNothing();
     EXPECT_EQ(calls.Take(), Lines{"InvalidateRect(window 1, null, 0)"});
 }
 
@@ -106,8 +98,7 @@ TEST_F(FrameCycleTest, InkThatAFrameDroppedIsStillWipedByOneRepaint)
     CreateQuiet();
     ShowStroke();
     clock.Advance(100);
-    InvalidateRect(library.GetWindowHandle(), nullptr, FALSE);
-    Paint();
+    PaintAgain(library.GetWindowHandle());
     Tick();
     Tick();
     EXPECT_EQ(Invalidations(), 1U);
@@ -174,7 +165,7 @@ TEST_F(FrameCycleTest, PendingSamplesSurviveTheWipeOfOlderInk)
 TEST_F(FrameCycleTest, AShortLivedStrokeThatATickSawIsWiped)
 {
     CreateQuiet();
-    SetLife(30);
+    SetField(&LM_Params::inkDecayTime, 30);
     InputStroke();
     Paint();
     calls.Take();
@@ -190,7 +181,7 @@ TEST_F(FrameCycleTest, AShortLivedStrokeThatNoTickSawStaysUntilTheNextInput)
 {
     const Backdrop below({250, 100, 450, 250}, Green);
     CreateQuiet();
-    SetLife(30);
+    SetField(&LM_Params::inkDecayTime, 30);
     InputStroke();
     Paint();
     calls.Take();

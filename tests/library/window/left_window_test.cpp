@@ -25,9 +25,8 @@ protected:
 TEST_F(LeftWindowTest, APaintValidatesItAndPaintsTheKey)
 {
     Leave();
-    InvalidateRect(left, nullptr, FALSE);
     RecordPainting();
-    UpdateWindow(left);
+    PaintAgain(left);
     EXPECT_FALSE(GetUpdateRect(left, nullptr, FALSE));
     EXPECT_EQ(calls.Take(), (Lines{"BeginPaint(left, *)", "CreateSolidBrush(0xFF00FF)",
                                    "PatBlt(*, 0, 0, 640, 480, 0xF00021)", "DeleteObject(brush 0xFF00FF)",
@@ -88,8 +87,7 @@ TEST_F(LeftWindowTest, IsHarmlessAfterTheInstanceIsGone)
          {UINT{WM_TIMER}, UINT{WM_COMMAND}, UINT{WM_HOTKEY}, UINT{WM_APP + 46}, UINT{WM_SIZE}}) {
         SendMessageW(left, message, ChooseDirect2D, 0);
     }
-    InvalidateRect(left, nullptr, FALSE);
-    UpdateWindow(left);
+    PaintAgain(left);
     EXPECT_FALSE(GetUpdateRect(left, nullptr, FALSE));
     EXPECT_EQ(debugger.Texts(), Lines{});
 }

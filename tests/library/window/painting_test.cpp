@@ -29,8 +29,7 @@ protected:
 
     Lines CallsOfOnePaint(HWND window)
     {
-        InvalidateRect(window, nullptr, FALSE);
-        UpdateWindow(window);
+        PaintAgain(window);
         return calls.Take();
     }
 
@@ -103,8 +102,7 @@ TEST_F(PaintingTest, TheMemorySurfaceIsMadeAnewForANewScreen)
     SelectGDI();
     HWND window = CreateRecorded();
     shell.Move({100, 40, 900, 640});
-    InvalidateRect(window, nullptr, FALSE);
-    UpdateWindow(window);
+    PaintAgain(window);
     EXPECT_EQ(calls.Of("CreateCompatibleBitmap"), Lines{"CreateCompatibleBitmap(dc of window 1, 800, 600)"});
     EXPECT_EQ(calls.Of("DeleteDC"), Lines{"DeleteDC(memory dc)"});
     EXPECT_EQ(calls.Of("BitBlt").back(), "BitBlt(dc of window 1, 0, 0, 800, 600, memory dc, 0, 0, 0xCC0020)");
@@ -115,13 +113,11 @@ TEST_F(PaintingTest, ANewScreenIsFollowedOnce)
     SelectGDI();
     HWND window = CreateRecorded();
     shell.Move({100, 40, 900, 640});
-    InvalidateRect(window, nullptr, FALSE);
-    UpdateWindow(window);
+    PaintAgain(window);
     PumpMessages();
     calls.Take();
     CallsOfOnePaint(window);
-    InvalidateRect(window, nullptr, FALSE);
-    UpdateWindow(window);
+    PaintAgain(window);
     EXPECT_EQ(calls.Count("SetWindowPos"), 0U);
     EXPECT_EQ(calls.Count("CreateCompatibleBitmap"), 0U);
 }
@@ -130,8 +126,7 @@ TEST_F(PaintingTest, ForDirectCompositionTheWindowFollowsWithoutAMemorySurface)
 {
     HWND window = CreateRecorded();
     shell.Move({100, 40, 900, 640});
-    InvalidateRect(window, nullptr, FALSE);
-    UpdateWindow(window);
+    PaintAgain(window);
     EXPECT_EQ(calls.Of("SetWindowPos"), Lines{"SetWindowPos(window 1, topmost, 100, 40, 800, 600, 64)"});
     EXPECT_EQ(calls.Count("CreateCompatibleDC"), 0U);
 }
@@ -146,9 +141,7 @@ void PaintingTest::ExpectOverlayToFollow(const RECT& place)
     const int lastY = place.bottom - place.top - 20;
     InputAndPaint({Sample(lastX - 60, lastY), Sample(lastX, lastY)}); // near the new lower right corner
 
-    RECT overlay{};
-    GetWindowRect(window, &overlay);
-    EXPECT_TRUE(EqualRect(&overlay, &place));
+    EXPECT_TRUE(IsAt(window, place));
     const Picture picture = TakePicture(WholeScreen);
     EXPECT_EQ(picture.At(place.left + lastX - 30, place.top + lastY), Ink);
     EXPECT_EQ(picture.Count(White), 0U);
@@ -184,9 +177,7 @@ TEST_F(PaintingTest, WithoutAShellFromNowOnTheOverlayStaysWhereItIs)
     EXPECT_EQ(calls.Count("SetWindowPos"), 0U);
     EXPECT_EQ(calls.Count("CreateCompatibleBitmap"), 0U);
     EXPECT_EQ(TakePicture(WholeScreen).At(325, 160), Ink);
-    RECT overlay{};
-    GetWindowRect(window, &overlay);
-    EXPECT_TRUE(EqualRect(&overlay, &Desktop));
+    EXPECT_TRUE(IsAt(window, Desktop));
 }
 
 TEST_F(PaintingTest, WithoutAnyShellTheOverlayIsASquareAtTheOrigin)
@@ -215,13 +206,11 @@ TEST_F(PaintingTest, AShellThatComesLaterIsFollowed)
     shell.Remove();
     CreateWithGDI();
     Paint();
-    const ShellStandIn later(library.Module(), {300, 200, 700, 500});
+    constexpr RECT Place = {300, 200, 700, 500};
+    const ShellStandIn later(library.Module(), Place);
     InputStroke();
     Paint();
-    RECT overlay{};
-    GetWindowRect(library.GetWindowHandle(), &overlay);
-    const RECT expected = {300, 200, 700, 500};
-    EXPECT_TRUE(EqualRect(&overlay, &expected));
+    EXPECT_TRUE(IsAt(library.GetWindowHandle(), Place));
 }
 
 } // namespace zq::LM::test

@@ -29,27 +29,14 @@ protected:
     }
 };
 
-TEST_F(SetUpTest, AWindowOfTheScreensSizeIsNotResized)
+TEST_F(SetUpTest, AWindowThatHasTheScreensWidthOrHeightIsNotResized)
 {
     RecordPainting();
-    library.Create();
-    EXPECT_EQ(calls.Count("SetWindowPos"), 0U);
-}
-
-TEST_F(SetUpTest, AWindowOfAnotherWidthOnlyIsNotResized)
-{
-    MakeWindowsOf(Width - 40, Height);
-    RecordPainting();
-    library.Create();
-    EXPECT_EQ(calls.Count("SetWindowPos"), 0U);
-}
-
-TEST_F(SetUpTest, AWindowOfAnotherHeightOnlyIsNotResized)
-{
-    MakeWindowsOf(Width, Height - 40);
-    RecordPainting();
-    library.Create();
-    EXPECT_EQ(calls.Count("SetWindowPos"), 0U);
+    for (const SIZE size : {SIZE{Width, Height}, SIZE{Width - 40, Height}, SIZE{Width, Height - 40}}) {
+        MakeWindowsOf(size.cx, size.cy);
+        library.Create();
+        EXPECT_EQ(calls.Count("SetWindowPos"), 0U) << size.cx << " x " << size.cy;
+    }
 }
 
 TEST_F(SetUpTest, AWindowThatDiffersInBothIsResizedAtTheOriginAndClearedForGDI)
@@ -61,12 +48,7 @@ TEST_F(SetUpTest, AWindowThatDiffersInBothIsResizedAtTheOriginAndClearedForGDI)
     EXPECT_EQ(calls.Of("SetWindowPos"), Lines{FitDesktop});
     // After the resize, after the frame, and the new surface.
     EXPECT_EQ(calls.Of("PatBlt"), (Lines{ClearDesktop, ClearDesktop, ClearSurface}));
-    RECT place{};
-    GetWindowRect(window, &place);
-    EXPECT_EQ(place.left, 0);
-    EXPECT_EQ(place.top, 0);
-    EXPECT_EQ(place.right, Width);
-    EXPECT_EQ(place.bottom, Height);
+    EXPECT_TRUE(IsAt(window, {0, 0, Width, Height}));
 }
 
 TEST_F(SetUpTest, AWindowOfTheRightSizeIsClearedForGDIOnceAfterTheFrame)
@@ -96,9 +78,7 @@ TEST_F(SetUpTest, AShellThatMovesBeforeTheWindowExistsIsFollowedDuringCreation)
     RecordPainting();
     HWND window = library.Create();
     EXPECT_EQ(calls.Of("SetWindowPos"), Lines{"SetWindowPos(window 1, topmost, 100, 40, 700, 600, 64)"});
-    RECT place{};
-    GetWindowRect(window, &place);
-    EXPECT_TRUE(EqualRect(&place, &moved));
+    EXPECT_TRUE(IsAt(window, moved));
 }
 
 TEST_F(SetUpTest, TheMemorySurfaceHasTheSizeOfTheShellsClientArea)
@@ -119,9 +99,7 @@ TEST_F(SetUpTest, TheMemorySurfaceHasTheSizeOfTheShellsClientArea)
 
 TEST_F(SetUpTest, Direct2DHasAMemorySurfaceToo)
 {
-    library.Create();
-    Choose(ChooseDirect2D);
-    DestroyAndForget();
+    Select(ChooseDirect2D);
     RecordPainting();
     library.Create();
     EXPECT_EQ(calls.Of("CreateCompatibleBitmap"), Lines{"CreateCompatibleBitmap(dc of window 1, 640, 480)"});
@@ -167,19 +145,6 @@ TEST_F(SetUpTest, WithTheUserInterfaceTheHotkeyIsRegisteredAndItsAtomGivenBack)
     EXPECT_EQ(calls.Take(), Lines{"GlobalDeleteAtom(49443)"});
 }
 
-TEST_F(SetUpTest, ALivingWindowLosesItsHotkeyWithARebuild)
-{
-    RecordHotkey(false);
-    library.SetDebugLevel(1);
-    library.Create();
-    Choose(ChooseGDI);
-    calls.Take();
-    InputStroke();
-    EXPECT_EQ(calls.Take(),
-              (Lines{"UnregisterHotKey(window 1, 49443)", "GlobalDeleteAtom(49443)",
-                     "GlobalAddAtomW(\"Lumora Hotkey\")", "RegisterHotKey(window 2, 49443, 7, 87)"}));
-}
-
 TEST_F(SetUpTest, AHotkeyThatIsTakenIsLeftOutInSilence)
 {
     RecordHotkey(true);
@@ -201,25 +166,6 @@ TEST_F(SetUpTest, WithoutAnAtomNoHotkeyIsTried)
     EXPECT_NE(library.Create(), nullptr);
     DestroyAndForget();
     EXPECT_EQ(calls.Take(), Lines{"GlobalAddAtomW(\"Lumora Hotkey\")"});
-}
-
-TEST_F(SetUpTest, ALaterLevelGivesAnExistingWindowNoHotkey)
-{
-    RecordHotkey(false);
-    library.Create();
-    library.SetDebugLevel(255);
-    DestroyAndForget();
-    EXPECT_EQ(calls.Take(), Lines{});
-}
-
-TEST_F(SetUpTest, ALaterLevelTakesNoHotkeyFromAnExistingWindow)
-{
-    RecordHotkey(false);
-    library.SetDebugLevel(255);
-    library.Create();
-    calls.Take();
-    library.SetDebugLevel(0);
-    EXPECT_EQ(calls.Take(), Lines{});
 }
 
 TEST_F(SetUpTest, TheDeviceContextReadForThePixelSizeIsTheOnlyOneKept)

@@ -65,52 +65,37 @@ TEST_F(CallbacksTest, LinesNeedNoWindow)
 
 TEST_F(CallbacksTest, ALineHasOneOpaqueColourAndOneWidth)
 {
-    DrawLineCallback(-1, 2, 10, 0x00102030, 300, -4, 10, 0x00102030);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(-1, 2, 10, 0xFF102030, 300, -4, 10, 0xFF102030)"));
-}
-
-TEST_F(CallbacksTest, Widths3And4Give3)
-{
-    DrawLineCallback(1, 1, 3, 0, 2, 2, 4, 0);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 1, 3, 0xFF000000, 2, 2, 3, 0xFF000000)"));
-}
-
-TEST_F(CallbacksTest, WidthsWrapAt32Bits)
-{
-    DrawLineCallback(1, 1, 0xFFFFFFFF, 0, 2, 2, 1, 0);
-    EraseLineCallback(1, 1, 0xFFFFFFFF, 0, 2, 2, 1, 0);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 1, 0, 0xFF000000, 2, 2, 0, 0xFF000000)",
-                                          "2: DrawLine(1, 1, 0, 0xFF00FF, 2, 2, 0, 0xFF00FF)"));
-}
-
-TEST_F(CallbacksTest, ColoursAreMixedWithoutACarryLimit)
-{
-    DrawLineCallback(1, 1, 2, 0x000000FF, 2, 2, 2, 0x0000FF00);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 1, 2, 0xFF007FFF, 2, 2, 2, 0xFF007FFF)"));
-}
-
-TEST_F(CallbacksTest, InkInTheKeyIsDrawnInItsSubstitute)
-{
-    DrawLineCallback(1, 1, 2, 0x00FF00FF, 2, 2, 2, 0x00FF00FF);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 1, 2, 0xFFFE00FF, 2, 2, 2, 0xFFFE00FF)"));
-}
-
-TEST_F(CallbacksTest, ColoursThatMixToTheKeyAreSubstitutedToo)
-{
-    DrawLineCallback(1, 1, 2, 0x01FE01FE, 2, 2, 2, 0); // neither end has the key's colour
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 1, 2, 0xFFFE00FF, 2, 2, 2, 0xFFFE00FF)"));
-}
-
-TEST_F(CallbacksTest, TheKeyIsComparedOverAll32Bits)
-{
-    DrawLineCallback(1, 1, 2, 0x01FF00FF, 2, 2, 2, 0x01FF00FF);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 1, 2, 0xFFFF00FF, 2, 2, 2, 0xFFFF00FF)"));
+    struct End {
+        unsigned width;
+        unsigned colour;
+    };
+    struct {
+        const char* of;
+        End from;
+        End to;
+        const char* drawn;
+    } const lines[] = {
+        {"equal ends", {10, 0x00102030}, {10, 0x00102030}, "10, 0xFF102030"},
+        {"widths that are rounded down", {3, 0}, {4, 0}, "3, 0xFF000000"},
+        {"widths that wrap at 32 bits", {0xFFFFFFFF, 0}, {1, 0}, "0, 0xFF000000"},
+        {"colours that are mixed without a carry limit", {2, 0x000000FF}, {2, 0x0000FF00}, "2, 0xFF007FFF"},
+        {"the key, which has a substitute", {2, 0x00FF00FF}, {2, 0x00FF00FF}, "2, 0xFFFE00FF"},
+        {"colours that mix to the key, which neither has", {2, 0x01FE01FE}, {2, 0}, "2, 0xFFFE00FF"},
+        {"the key but for its alpha", {2, 0x01FF00FF}, {2, 0x01FF00FF}, "2, 0xFFFF00FF"},
+    };
+    for (const auto& [of, from, to, drawn] : lines) {
+        DrawLineCallback(-1, 2, from.width, from.colour, 300, -4, to.width, to.colour);
+        const std::string end = drawn;
+        EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(-1, 2, " + end + ", 300, -4, " + end + ")")) << of;
+    }
 }
 
 TEST_F(CallbacksTest, ErasingDrawsInTheKeyWithAlpha0)
 {
     EraseLineCallback(1, 2, 5, 0x00202020, 3, 4, 8, 0xFFFFFFFF);
-    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 2, 6, 0xFF00FF, 3, 4, 6, 0xFF00FF)"));
+    EraseLineCallback(1, 1, 0xFFFFFFFF, 0, 2, 2, 1, 0); // widths wrap at 32 bits
+    EXPECT_THAT(calls.Take(), ElementsAre("2: DrawLine(1, 2, 6, 0xFF00FF, 3, 4, 6, 0xFF00FF)",
+                                          "2: DrawLine(1, 1, 0, 0xFF00FF, 2, 2, 0, 0xFF00FF)"));
 }
 
 TEST_F(CallbacksTest, PenDataPassesUnchanged)

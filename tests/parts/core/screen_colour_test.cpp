@@ -66,24 +66,16 @@ TEST_F(ScreenColourTest, IsBlackWithoutADeviceContext)
     EXPECT_EQ(EngineRecord().inkColor, 0U);
 }
 
-TEST_F(ScreenColourTest, BecomesTheInkOfRecordAndEngineWhilePickingGoesOn)
+TEST_F(ScreenColourTest, BecomesTheInkOfRecordAndEngineWherePickingEndsWithTheFlagAlone)
 {
-    SetPicking(1);
-    PickScreenColorCallback(false);
-    EXPECT_EQ(Record().inkColor, 0x00A0B0C0U);
-    EXPECT_EQ(Record().colorPicker, 1);
-    EXPECT_EQ(EngineRecord().inkColor, 0x00A0B0C0U);
-    EXPECT_EQ(EngineRecord().colorPicker, 1);
-}
-
-TEST_F(ScreenColourTest, WithTheFlagEndsThePickingInRecordAndEngine)
-{
-    SetPicking(1);
-    PickScreenColorCallback(true);
-    EXPECT_EQ(Record().inkColor, 0x00A0B0C0U);
-    EXPECT_EQ(Record().colorPicker, 0);
-    EXPECT_EQ(EngineRecord().inkColor, 0x00A0B0C0U);
-    EXPECT_EQ(EngineRecord().colorPicker, 0);
+    for (const bool endsPicking : {false, true}) {
+        SetPicking(1);
+        PickScreenColorCallback(endsPicking);
+        for (const Params& params : {Record(), EngineRecord()}) {
+            EXPECT_EQ(params.inkColor, 0x00A0B0C0U);
+            EXPECT_EQ(params.colorPicker, endsPicking ? 0 : 1);
+        }
+    }
 }
 
 TEST_F(ScreenColourTest, ChangesNothingElseInTheRecord)

@@ -5,9 +5,9 @@
 #include "support/hook/import_table.h"
 #include "support/log_level.h"
 #include "support/recorded_log.h"
+#include "support/row_name.h"
 
 #include <cstddef>
-#include <ostream>
 
 namespace zq::LM {
 
@@ -76,18 +76,16 @@ TEST_F(D2DSetUpTest, EndReleasesInAFixedOrder)
 }
 
 struct FailingStep {
-    const char* step;
+    const char* name;
     std::size_t calls; // of the set-up, the failing one included, up to it
     bool draws;        // strokes still
 };
-
-std::ostream& operator<<(std::ostream& out, const FailingStep& failing) { return out << failing.step; }
 
 class D2DFailingSetUpTest : public D2DSetUpTest, public testing::WithParamInterface<FailingStep> {
 protected:
     D2DFailingSetUpTest()
     {
-        graphics.Answer(GetParam().step, E_FAIL);
+        graphics.Answer(GetParam().name, E_FAIL);
         setUp = MakeBackEnd();
     }
 
@@ -125,11 +123,7 @@ INSTANTIATE_TEST_SUITE_P(Steps, D2DFailingSetUpTest,
                                          FailingStep{"DWriteCreateFactory", 2, true},
                                          FailingStep{"WriteFactory.CreateTextFormat", 3, true},
                                          FailingStep{"D2DFactory.CreateDCRenderTarget", 4, false}),
-                         [](const testing::TestParamInfo<FailingStep>& tested) {
-                             std::string name = tested.param.step;
-                             std::erase(name, '.');
-                             return name;
-                         });
+                         test::RowName());
 
 TEST_F(D2DSetUpTest, MakesTheWindowSeeThroughInTheKeyAndOpaqueElsewhere)
 {

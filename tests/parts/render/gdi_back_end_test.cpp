@@ -141,35 +141,32 @@ TEST(GdiBinding, MakesTheWindowSeeThroughInTheKeyAndThreeQuartersOpaque)
     EXPECT_EQ(flags, static_cast<DWORD>(LWA_COLORKEY | LWA_ALPHA));
 }
 
-TEST(GdiClear, WithoutAMemoryBitmapSaysSoAndDrawsNothing)
-{
-    const HiddenWindow window(60, 40);
-    DrawingCalls calls;
+class GdiClear : public testing::Test {
+protected:
+    GdiClear() { gdi.InitTransparentWindow(window.Get(), Key); }
+
+    const HiddenWindow window{60, 40};
+    const TestBitmap bitmap{100, 100, Green}; // larger than the window
     GDI gdi;
-    gdi.InitTransparentWindow(window.Get(), Key);
-    calls.Take();
+};
+
+TEST_F(GdiClear, WithoutAMemoryBitmapSaysSoAndDrawsNothing)
+{
+    DrawingCalls calls;
     EXPECT_FALSE(gdi.Clear());
     EXPECT_THAT(calls.Take(), IsEmpty());
 }
 
-TEST(GdiClear, AfterTheBitmapWasTakenAwayDrawsNothing)
+TEST_F(GdiClear, AfterTheBitmapWasTakenAwayDrawsNothing)
 {
-    const HiddenWindow window(60, 40);
-    const TestBitmap bitmap(60, 40, Green);
-    GDI gdi;
-    gdi.InitTransparentWindow(window.Get(), Key);
     gdi.SetMemoryDC(bitmap.DC());
     gdi.SetMemoryDC(nullptr);
     EXPECT_FALSE(gdi.Clear());
-    EXPECT_EQ(bitmap.Look().Count(Green), 60U * 40U);
+    EXPECT_EQ(bitmap.Look().Count(Green), 100U * 100U);
 }
 
-TEST(GdiClear, FillsTheWindowsSizeWithTheKeyAndGivesItsBrushBack)
+TEST_F(GdiClear, FillsTheWindowsSizeWithTheKeyAndGivesItsBrushBack)
 {
-    const HiddenWindow window(60, 40);
-    const TestBitmap bitmap(100, 100, Green);
-    GDI gdi;
-    gdi.InitTransparentWindow(window.Get(), Key);
     gdi.SetMemoryDC(bitmap.DC());
     {
         DrawingCalls calls;
@@ -188,15 +185,12 @@ TEST(GdiClear, FillsTheWindowsSizeWithTheKeyAndGivesItsBrushBack)
     EXPECT_EQ(picture.At(59, 40), Green);
 }
 
-TEST(GdiClear, UsesTheKeyThatItWasGiven)
+TEST_F(GdiClear, UsesTheKeyThatItWasGiven)
 {
-    const HiddenWindow window(10, 10);
-    const TestBitmap bitmap(10, 10, Green);
-    GDI gdi;
     gdi.InitTransparentWindow(window.Get(), 0x00123456);
     gdi.SetMemoryDC(bitmap.DC());
     gdi.Clear();
-    EXPECT_EQ(bitmap.Look().Count(0x00123456), 100U);
+    EXPECT_EQ(bitmap.Look().Count(0x00123456), 60U * 40U);
 }
 
 TEST(GdiEmptyOperations, AskNothingOfTheSystemAndChangeNoPixel)

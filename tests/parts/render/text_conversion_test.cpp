@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -60,36 +61,14 @@ private:
     char* first;
 };
 
-TEST(ConvertToWide, GivesAShortTextWhole) { EXPECT_EQ(Narrowed(ConvertToWide("Ink 12")), "Ink 12"); }
-
-TEST(ConvertToWide, GivesAnEmptyTextForAnEmptyOne)
+TEST(ConvertToWide, GivesUpTo100BytesAndZeroesBehindThem)
 {
-    for (const wchar_t character : ConvertToWide("")) {
-        EXPECT_EQ(character, L'\0');
-    }
-}
-
-TEST(ConvertToWide, Keeps99Bytes) { EXPECT_EQ(Narrowed(ConvertToWide(Letters(99).c_str())), Letters(99)); }
-
-TEST(ConvertToWide, Keeps100BytesAndEndsThem)
-{
-    const WideText wide = ConvertToWide(Letters(100).c_str());
-    EXPECT_EQ(Narrowed(wide), Letters(100));
-    EXPECT_EQ(wide[100], L'\0');
-}
-
-TEST(ConvertToWide, CutsTheByteAfter100)
-{
-    const WideText wide = ConvertToWide(Letters(101).c_str());
-    EXPECT_EQ(Narrowed(wide), Letters(100));
-    EXPECT_EQ(wide[100], L'\0');
-}
-
-TEST(ConvertToWide, IsZeroBehindTheText)
-{
-    const WideText wide = ConvertToWide("abc");
-    for (std::size_t i = 3; i < wide.size(); ++i) {
-        EXPECT_EQ(wide[i], L'\0') << i;
+    for (const std::size_t length : {0U, 3U, 99U, 100U, 101U}) {
+        const WideText wide = ConvertToWide(Letters(length).c_str());
+        EXPECT_EQ(Narrowed(wide), Letters(std::min<std::size_t>(length, 100)));
+        for (std::size_t i = std::min<std::size_t>(length, 100); i < wide.size(); ++i) {
+            EXPECT_EQ(wide[i], L'\0') << length << " letters, at " << i;
+        }
     }
 }
 

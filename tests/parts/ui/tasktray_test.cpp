@@ -80,23 +80,12 @@ TEST_F(TasktrayTest, HasATipFromTheStart)
     EXPECT_STREQ(data.szTip, L"sc::WinGui::Tasktray");
 }
 
-TEST_F(TasktrayTest, ATipMayBeEmpty)
+TEST_F(TasktrayTest, ATipIsShownWholeUpTo99CharactersAndElseCutTo49)
 {
     SetUpTray();
-    EXPECT_EQ(ShownTip(0), 0U);
-}
-
-TEST_F(TasktrayTest, ATipOfNinetyNineCharactersIsShownWhole)
-{
-    SetUpTray();
-    EXPECT_EQ(ShownTip(99), 99U);
-}
-
-TEST_F(TasktrayTest, ATipOfAHundredCharactersOrMoreIsCutToFortyNine)
-{
-    SetUpTray();
-    for (const std::size_t length : {100U, 127U, 128U, 5000U}) {
-        EXPECT_EQ(ShownTip(length), 49U) << length;
+    for (const auto& [length, shown] : {std::pair(0U, 0U), std::pair(99U, 99U), std::pair(100U, 49U),
+                                        std::pair(127U, 49U), std::pair(128U, 49U), std::pair(5000U, 49U)}) {
+        EXPECT_EQ(ShownTip(length), shown) << length;
     }
 }
 

@@ -16,20 +16,54 @@ public:
 
     explicit BackBuffer(ID3D11Texture2D* texture) : StandInObject(Kind), texture(texture) {}
 
-    HRESULT STDMETHODCALLTYPE SetPrivateData(const GUID& id, UINT size, const void* data) override;
-    HRESULT STDMETHODCALLTYPE SetPrivateDataInterface(const GUID& id, const IUnknown* object) override;
-    HRESULT STDMETHODCALLTYPE GetPrivateData(const GUID& id, UINT* size, void* data) override;
-    HRESULT STDMETHODCALLTYPE GetParent(const GUID& id, void** parent) override;
-    HRESULT STDMETHODCALLTYPE GetDevice(const GUID& id, void** device) override;
-    HRESULT STDMETHODCALLTYPE GetDesc(DXGI_SURFACE_DESC* description) override;
-    HRESULT STDMETHODCALLTYPE Map(DXGI_MAPPED_RECT*, UINT) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Unmap() override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetDC(BOOL, HDC*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE ReleaseDC(RECT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetResource(const GUID& id, void** resource, UINT* subresource) override;
+    STDMETHODIMP SetPrivateData(const GUID& id, UINT size, const void* data) override
+    {
+        return texture->SetPrivateData(id, size, data);
+    }
+    STDMETHODIMP SetPrivateDataInterface(const GUID& id, const IUnknown* object) override
+    {
+        return texture->SetPrivateDataInterface(id, object);
+    }
+    STDMETHODIMP GetPrivateData(const GUID& id, UINT* size, void* data) override
+    {
+        return texture->GetPrivateData(id, size, data);
+    }
+    STDMETHODIMP GetParent(const GUID& id, void** parent) override { return GetDevice(id, parent); }
+    STDMETHODIMP GetDevice(const GUID& id, void** device) override
+    {
+        Microsoft::WRL::ComPtr<ID3D11Device> owner;
+        texture->GetDevice(owner.GetAddressOf());
+        return owner->QueryInterface(id, device);
+    }
+    STDMETHODIMP GetDesc(DXGI_SURFACE_DESC* description) override
+    {
+        D3D11_TEXTURE2D_DESC own{};
+        texture->GetDesc(&own);
+        *description = {own.Width, own.Height, own.Format, own.SampleDesc};
+        return S_OK;
+    }
+    STDMETHODIMP Map(DXGI_MAPPED_RECT*, UINT) override { return E_NOTIMPL; }
+    STDMETHODIMP Unmap() override { return E_NOTIMPL; }
+    STDMETHODIMP GetDC(BOOL, HDC*) override { return E_NOTIMPL; }
+    STDMETHODIMP ReleaseDC(RECT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetResource(const GUID& id, void** resource, UINT* subresource) override
+    {
+        *subresource = 0;
+        return texture->QueryInterface(id, resource);
+    }
 
 private:
-    HRESULT Find_(const GUID& id, void** out, const char*& foundKind) override;
+    HRESULT Find_(const GUID& id, void** out, const char*& foundKind) override
+    {
+        if (id == __uuidof(IUnknown) || id == __uuidof(IDXGIObject) || id == __uuidof(IDXGIDeviceSubObject) ||
+            id == __uuidof(IDXGISurface) || id == __uuidof(IDXGISurface1) || id == __uuidof(IDXGISurface2)) {
+            Hold();
+            *out = static_cast<IDXGISurface2*>(this);
+            return S_OK;
+        }
+        foundKind = "Texture";
+        return texture->QueryInterface(id, out);
+    }
 
     Microsoft::WRL::ComPtr<ID3D11Texture2D> texture;
 };

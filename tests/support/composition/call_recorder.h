@@ -22,7 +22,6 @@ struct CallRecorder {
 };
 
 // Null while there is no stand-in: its functions and objects then work on unrecorded.
-CallRecorder* Recorder();
-void SetRecorder(CallRecorder* recorder);
+inline CallRecorder* g_recorder = nullptr;
 
 } // namespace zq::LM::test

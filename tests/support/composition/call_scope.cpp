@@ -12,8 +12,8 @@ thread_local int t_depth = 0; // calls under way on this thread
 
 bool IsOfInterest(const void* caller, const void* object)
 {
-    return t_depth == 0 && Recorder() != nullptr && !IsInSystem(caller) &&
-           (object == nullptr || Recorder()->objects.Knows(object));
+    return t_depth == 0 && g_recorder != nullptr && !IsInSystem(caller) &&
+           (object == nullptr || g_recorder->objects.Knows(object));
 }
 
 } // namespace
@@ -26,7 +26,7 @@ std::int64_t CallScope::Now()
 }
 
 CallScope::CallScope(const void* caller, const void* object, const char* method)
-    : recorded(IsOfInterest(caller, object)), kept(recorded && Recorder()->keepCalls), object(object)
+    : recorded(IsOfInterest(caller, object)), kept(recorded && g_recorder->keepCalls), object(object)
 {
     ++t_depth;
     if (recorded) {
@@ -41,13 +41,13 @@ CallScope::~CallScope()
     --t_depth;
     if (kept) {
         call.leftAt = Now();
-        Recorder()->log.Add(call);
+        g_recorder->log.Add(call);
     }
 }
 
 std::optional<HRESULT> CallScope::Chosen()
 {
-    return recorded ? Recorder()->answers.Next(call.Step()) : std::nullopt;
+    return recorded ? g_recorder->answers.Next(call.Step()) : std::nullopt;
 }
 
 HRESULT CallScope::Result(HRESULT result)
@@ -59,7 +59,7 @@ HRESULT CallScope::Result(HRESULT result)
 void CallScope::Made(const void* made, const char* kind)
 {
     if (recorded) {
-        Recorder()->objects.Given(made, kind);
+        g_recorder->objects.Given(made, kind);
         call.made = NameOf(made);
     }
 }
@@ -67,7 +67,7 @@ void CallScope::Made(const void* made, const char* kind)
 ULONG CallScope::Added(ULONG references)
 {
     if (recorded) {
-        Recorder()->objects.Added(object);
+        g_recorder->objects.Added(object);
     }
     call.result = references;
     return references;
@@ -76,7 +76,7 @@ ULONG CallScope::Added(ULONG references)
 ULONG CallScope::Released(ULONG references)
 {
     if (recorded) {
-        Recorder()->objects.Released(object);
+        g_recorder->objects.Released(object);
     }
     call.result = references;
     return references;

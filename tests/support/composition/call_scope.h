@@ -34,8 +34,28 @@ public:
 
     // The result chosen by the test; nothing when the call is to be made.
     std::optional<HRESULT> Chosen();
-
     HRESULT Result(HRESULT result);
+
+    // What the call comes to: the chosen result, or what its work gives.
+    template <typename Work> HRESULT Do(Work work)
+    {
+        const std::optional<HRESULT> chosen = Chosen();
+        return Result(chosen ? *chosen : work());
+    }
+
+    // The same of a call that puts an object of this kind into `out`.
+    template <typename Interface, typename Work> HRESULT Give(Interface** out, const char* kind, Work work)
+    {
+        *out = nullptr;
+        return Do([&] {
+            const HRESULT result = work();
+            if (SUCCEEDED(result)) {
+                Made(*out, kind);
+            }
+            return result;
+        });
+    }
+
     void Made(const void* object, const char* kind);
     ULONG Added(ULONG references);
     ULONG Released(ULONG references);

@@ -24,44 +24,37 @@ HRESULT CompositionDevice::Create(const GUID& id, void** out)
 HRESULT CompositionDevice::Commit()
 {
     CallScope scope(LUMORA_CALLER, this, "Commit");
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    CommitTargets(this);
-    return scope.Result(S_OK);
+    return scope.Do([this] {
+        CommitTargets(this);
+        return S_OK;
+    });
 }
 
 HRESULT CompositionDevice::CreateTargetForHwnd(HWND window, BOOL topmost, IDCompositionTarget** out)
 {
     CallScope scope(LUMORA_CALLER, this, "CreateTargetForHwnd");
     scope.Arguments(window, topmost);
-    *out = nullptr;
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    DWORD owner = 0;
-    GetWindowThreadProcessId(window, &owner);
-    if (owner != GetCurrentProcessId()) {
-        return scope.Result(E_INVALIDARG);
-    }
-    if (Target::Exists(window, topmost != FALSE)) {
-        return scope.Result(WindowAlreadyComposed);
-    }
-    *out = new Target(this, window, topmost != FALSE);
-    scope.Made(*out, Target::Kind);
-    return scope.Result(S_OK);
+    return scope.Give(out, Target::Kind, [=, this] {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner != GetCurrentProcessId()) {
+            return E_INVALIDARG;
+        }
+        if (Target::Exists(window, topmost != FALSE)) {
+            return WindowAlreadyComposed;
+        }
+        *out = new Target(this, window, topmost != FALSE);
+        return S_OK;
+    });
 }
 
 HRESULT CompositionDevice::CreateVisual(IDCompositionVisual** out)
 {
     CallScope scope(LUMORA_CALLER, this, "CreateVisual");
-    *out = nullptr;
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    *out = new Visual;
-    scope.Made(*out, Visual::Kind);
-    return scope.Result(S_OK);
+    return scope.Give(out, Visual::Kind, [out] {
+        *out = new Visual;
+        return S_OK;
+    });
 }
 
 HRESULT CompositionDevice::Find_(const GUID& id, void** out, const char*& foundKind)

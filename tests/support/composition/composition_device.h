@@ -17,75 +17,47 @@ public:
     // As the system's functions do, for this interface alone.
     static HRESULT Create(const GUID& id, void** out);
 
-    HRESULT STDMETHODCALLTYPE Commit() override;
-    HRESULT STDMETHODCALLTYPE CreateTargetForHwnd(HWND window, BOOL topmost,
-                                                  IDCompositionTarget** out) override;
-    HRESULT STDMETHODCALLTYPE CreateVisual(IDCompositionVisual** out) override;
+    STDMETHODIMP Commit() override;
+    STDMETHODIMP CreateTargetForHwnd(HWND window, BOOL topmost, IDCompositionTarget** out) override;
+    STDMETHODIMP CreateVisual(IDCompositionVisual** out) override;
 
-    HRESULT STDMETHODCALLTYPE WaitForCommitCompletion() override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetFrameStatistics(DCOMPOSITION_FRAME_STATISTICS*) override
+    STDMETHODIMP WaitForCommitCompletion() override { return E_NOTIMPL; }
+    STDMETHODIMP GetFrameStatistics(DCOMPOSITION_FRAME_STATISTICS*) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateSurface(UINT, UINT, DXGI_FORMAT, DXGI_ALPHA_MODE, IDCompositionSurface**) override
     {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE CreateSurface(UINT, UINT, DXGI_FORMAT, DXGI_ALPHA_MODE,
-                                            IDCompositionSurface**) override
+    STDMETHODIMP CreateVirtualSurface(UINT, UINT, DXGI_FORMAT, DXGI_ALPHA_MODE,
+                                      IDCompositionVirtualSurface**) override
     {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE CreateVirtualSurface(UINT, UINT, DXGI_FORMAT, DXGI_ALPHA_MODE,
-                                                   IDCompositionVirtualSurface**) override
+    STDMETHODIMP CreateSurfaceFromHandle(HANDLE, IUnknown**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateSurfaceFromHwnd(HWND, IUnknown**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateTranslateTransform(IDCompositionTranslateTransform**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateScaleTransform(IDCompositionScaleTransform**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateRotateTransform(IDCompositionRotateTransform**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateSkewTransform(IDCompositionSkewTransform**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateMatrixTransform(IDCompositionMatrixTransform**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateTransformGroup(IDCompositionTransform**, UINT, IDCompositionTransform**) override
     {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE CreateSurfaceFromHandle(HANDLE, IUnknown**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateSurfaceFromHwnd(HWND, IUnknown**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateTranslateTransform(IDCompositionTranslateTransform**) override
+    STDMETHODIMP CreateTranslateTransform3D(IDCompositionTranslateTransform3D**) override
     {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE CreateScaleTransform(IDCompositionScaleTransform**) override
+    STDMETHODIMP CreateScaleTransform3D(IDCompositionScaleTransform3D**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateRotateTransform3D(IDCompositionRotateTransform3D**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateMatrixTransform3D(IDCompositionMatrixTransform3D**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateTransform3DGroup(IDCompositionTransform3D**, UINT, IDCompositionTransform3D**) override
     {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE CreateRotateTransform(IDCompositionRotateTransform**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateSkewTransform(IDCompositionSkewTransform**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateMatrixTransform(IDCompositionMatrixTransform**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateTransformGroup(IDCompositionTransform**, UINT,
-                                                   IDCompositionTransform**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateTranslateTransform3D(IDCompositionTranslateTransform3D**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateScaleTransform3D(IDCompositionScaleTransform3D**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateRotateTransform3D(IDCompositionRotateTransform3D**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateMatrixTransform3D(IDCompositionMatrixTransform3D**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateTransform3DGroup(IDCompositionTransform3D**, UINT,
-                                                     IDCompositionTransform3D**) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE CreateEffectGroup(IDCompositionEffectGroup**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateRectangleClip(IDCompositionRectangleClip**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateAnimation(IDCompositionAnimation**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CheckDeviceState(BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateEffectGroup(IDCompositionEffectGroup**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateRectangleClip(IDCompositionRectangleClip**) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateAnimation(IDCompositionAnimation**) override { return E_NOTIMPL; }
+    STDMETHODIMP CheckDeviceState(BOOL*) override { return E_NOTIMPL; }
 
 private:
     // The third interface can be held, and nothing else: its references are the device's.
@@ -93,9 +65,9 @@ private:
     public:
         explicit Third(CompositionDevice& device) : device(device) {}
         virtual ~Third() = default;
-        HRESULT STDMETHODCALLTYPE QueryInterface(const GUID& id, void** out) override;
-        ULONG STDMETHODCALLTYPE AddRef() override;
-        ULONG STDMETHODCALLTYPE Release() override;
+        STDMETHODIMP QueryInterface(const GUID& id, void** out) override;
+        STDMETHODIMP_(ULONG) AddRef() override;
+        STDMETHODIMP_(ULONG) Release() override;
 
     private:
         CompositionDevice& device;

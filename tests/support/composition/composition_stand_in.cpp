@@ -8,10 +8,10 @@ namespace zq::LM::test {
 CompositionStandIn::CompositionStandIn(HMODULE module) : entryPoints(module)
 {
     FindSystemModules();
-    SetRecorder(&recorder);
+    g_recorder = &recorder;
 }
 
-CompositionStandIn::~CompositionStandIn() { SetRecorder(nullptr); }
+CompositionStandIn::~CompositionStandIn() { g_recorder = nullptr; }
 
 void CompositionStandIn::Answer(const std::string& step, HRESULT result, unsigned nth, unsigned times)
 {

@@ -13,7 +13,7 @@ namespace {
 
 std::vector<Target*> g_targets;
 
-bool IsShowing() { return Recorder() != nullptr && Recorder()->show; }
+bool IsShowing() { return g_recorder != nullptr && g_recorder->show; }
 
 // Takes hold of the new one first: it may be the old one.
 template <typename Object> void Replace(Object*& place, Object* replacement)
@@ -33,15 +33,14 @@ HRESULT Visual::SetContent(IUnknown* newContent)
 {
     CallScope scope(LUMORA_CALLER, this, "SetContent");
     scope.Arguments(newContent);
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    SwapChain* chain = SwapChain::From(newContent);
-    if (newContent != nullptr && chain == nullptr) {
-        return scope.Result(E_INVALIDARG);
-    }
-    Replace(content, chain);
-    return scope.Result(S_OK);
+    return scope.Do([&] {
+        SwapChain* chain = SwapChain::From(newContent);
+        if (newContent != nullptr && chain == nullptr) {
+            return E_INVALIDARG;
+        }
+        Replace(content, chain);
+        return S_OK;
+    });
 }
 
 Visual::~Visual() { Replace<SwapChain>(content, nullptr); }
@@ -99,11 +98,10 @@ HRESULT Target::SetRoot(IDCompositionVisual* newRoot)
 {
     CallScope scope(LUMORA_CALLER, this, "SetRoot");
     scope.Arguments(newRoot);
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    Replace(root, static_cast<Visual*>(newRoot)); // there are no others than the stand-in's
-    return scope.Result(S_OK);
+    return scope.Do([&] {
+        Replace(root, static_cast<Visual*>(newRoot)); // there are no others than the stand-in's
+        return S_OK;
+    });
 }
 
 HRESULT Target::Find_(const GUID& id, void** out, const char*&)

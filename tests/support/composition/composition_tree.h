@@ -25,30 +25,27 @@ public:
 
     SwapChain* Content() const { return content; }
 
-    HRESULT STDMETHODCALLTYPE SetContent(IUnknown* newContent) override;
+    STDMETHODIMP SetContent(IUnknown* newContent) override;
 
-    HRESULT STDMETHODCALLTYPE SetOffsetX(float) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetOffsetX(IDCompositionAnimation*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetOffsetY(float) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetOffsetY(IDCompositionAnimation*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetTransform(const D2D_MATRIX_3X2_F&) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetTransform(IDCompositionTransform*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetTransformParent(IDCompositionVisual*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetEffect(IDCompositionEffect*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetBitmapInterpolationMode(DCOMPOSITION_BITMAP_INTERPOLATION_MODE) override
+    STDMETHODIMP SetOffsetX(float) override { return E_NOTIMPL; }
+    STDMETHODIMP SetOffsetX(IDCompositionAnimation*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetOffsetY(float) override { return E_NOTIMPL; }
+    STDMETHODIMP SetOffsetY(IDCompositionAnimation*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetTransform(const D2D_MATRIX_3X2_F&) override { return E_NOTIMPL; }
+    STDMETHODIMP SetTransform(IDCompositionTransform*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetTransformParent(IDCompositionVisual*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetEffect(IDCompositionEffect*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetBitmapInterpolationMode(DCOMPOSITION_BITMAP_INTERPOLATION_MODE) override
     {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE SetBorderMode(DCOMPOSITION_BORDER_MODE) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetClip(const D2D_RECT_F&) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetClip(IDCompositionClip*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE AddVisual(IDCompositionVisual*, BOOL, IDCompositionVisual*) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE RemoveVisual(IDCompositionVisual*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE RemoveAllVisuals() override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetCompositeMode(DCOMPOSITION_COMPOSITE_MODE) override { return E_NOTIMPL; }
+    STDMETHODIMP SetBorderMode(DCOMPOSITION_BORDER_MODE) override { return E_NOTIMPL; }
+    STDMETHODIMP SetClip(const D2D_RECT_F&) override { return E_NOTIMPL; }
+    STDMETHODIMP SetClip(IDCompositionClip*) override { return E_NOTIMPL; }
+    STDMETHODIMP AddVisual(IDCompositionVisual*, BOOL, IDCompositionVisual*) override { return E_NOTIMPL; }
+    STDMETHODIMP RemoveVisual(IDCompositionVisual*) override { return E_NOTIMPL; }
+    STDMETHODIMP RemoveAllVisuals() override { return E_NOTIMPL; }
+    STDMETHODIMP SetCompositeMode(DCOMPOSITION_COMPOSITE_MODE) override { return E_NOTIMPL; }
 
 private:
     ~Visual() override;
@@ -71,7 +68,7 @@ public:
     void Commit();
     void ShowIfContent(const SwapChain* chain) const;
 
-    HRESULT STDMETHODCALLTYPE SetRoot(IDCompositionVisual* newRoot) override;
+    STDMETHODIMP SetRoot(IDCompositionVisual* newRoot) override;
 
 private:
     ~Target() override;

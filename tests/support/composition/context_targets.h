@@ -2,11 +2,22 @@
 // frame; those of systems without a composition engine break.
 #pragma once
 
+#include <set>
+
 namespace zq::LM::test {
 
-void NoteTarget(const void* deviceContext, const void* target);
+inline std::set<const void*> g_contextsWithoutTarget;
+
+inline void NoteTarget(const void* deviceContext, const void* target)
+{
+    if (target == nullptr) {
+        g_contextsWithoutTarget.insert(deviceContext);
+    } else {
+        g_contextsWithoutTarget.erase(deviceContext);
+    }
+}
 
 // False for everything that is no device context.
-bool LacksTarget(const void* drawer);
+inline bool LacksTarget(const void* drawer) { return g_contextsWithoutTarget.contains(drawer); }
 
 } // namespace zq::LM::test

@@ -30,15 +30,7 @@ void GiveDevice(Hook<name, HRESULT(Device*, const GUID&, void**)>& hook)
     hook.Answer([](Device* device, const GUID& id, void** out) {
         CallScope scope(nullptr, nullptr, name.text);
         scope.Arguments(device, id);
-        *out = nullptr;
-        if (const auto chosen = scope.Chosen()) {
-            return scope.Result(*chosen);
-        }
-        const HRESULT result = CompositionDevice::Create(id, out);
-        if (SUCCEEDED(result)) {
-            scope.Made(*out, CompositionDevice::Kind);
-        }
-        return scope.Result(result);
+        return scope.Give(out, CompositionDevice::Kind, [&] { return CompositionDevice::Create(id, out); });
     });
 }
 

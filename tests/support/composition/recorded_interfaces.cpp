@@ -27,15 +27,8 @@ HRESULT STDMETHODCALLTYPE CreateSwapChainHook(IDXGIFactory2* self, IUnknown* dev
 {
     CallScope scope(LUMORA_CALLER, self, "CreateSwapChainForComposition");
     scope.Arguments(device, description, output);
-    *swapChain = nullptr;
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    const HRESULT result = SwapChain::Create(device, description, swapChain);
-    if (SUCCEEDED(result)) {
-        scope.Made(*swapChain, SwapChain::Kind);
-    }
-    return scope.Result(result);
+    return scope.Give(swapChain, SwapChain::Kind,
+                      [=] { return SwapChain::Create(device, description, swapChain); });
 }
 
 // Which of several methods of one name is meant.
@@ -55,11 +48,12 @@ using TakesRectangle = void (ID2D1RenderTarget::*)(const D2D1_RECT_F*, ID2D1Brus
 using TakesText = void (ID2D1RenderTarget::*)(const WCHAR*, UINT, IDWriteTextFormat*, const D2D1_RECT_F*,
                                               ID2D1Brush*, D2D1_DRAW_TEXT_OPTIONS, DWRITE_MEASURING_MODE);
 
-void WatchReferences(IUnknown* object)
+const char* WatchReferences(IUnknown* object, const char* kind)
 {
     MethodHook<"QueryInterface", static_cast<AsksById>(&IUnknown::QueryInterface)>::Patch(object);
     MethodSlot<&IUnknown::AddRef>::Hook(object, AddRefHook);
     MethodSlot<&IUnknown::Release>::Hook(object, ReleaseHook);
+    return kind;
 }
 
 template <FixedText Name, auto Method> using DrawingHook = MethodHook<Name, Method, WithoutTarget::IsLeftOut>;
@@ -68,11 +62,10 @@ HRESULT STDMETHODCALLTYPE EndDrawHook(ID2D1RenderTarget* self, D2D1_TAG* tag1, D
 {
     CallScope scope(LUMORA_CALLER, self, "EndDraw");
     scope.Arguments(tag1, tag2);
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    const HRESULT result = MethodSlot<&ID2D1RenderTarget::EndDraw>::Real(self, tag1, tag2);
-    return scope.Result(LacksTarget(self) ? D2DERR_WRONG_STATE : result);
+    return scope.Do([=] {
+        const HRESULT result = MethodSlot<&ID2D1RenderTarget::EndDraw>::Real(self, tag1, tag2);
+        return LacksTarget(self) ? static_cast<HRESULT>(D2DERR_WRONG_STATE) : result;
+    });
 }
 
 void STDMETHODCALLTYPE SetTargetHook(ID2D1DeviceContext* self, ID2D1Image* target)
@@ -83,10 +76,9 @@ void STDMETHODCALLTYPE SetTargetHook(ID2D1DeviceContext* self, ID2D1Image* targe
     NoteTarget(self, target);
 }
 
-void WatchDrawing(ID2D1RenderTarget* object)
+const char* WatchDrawing(ID2D1RenderTarget* object, const char* kind)
 {
     using Target = ID2D1RenderTarget;
-    WatchReferences(object);
     MethodHook<"CreateSolidColorBrush", static_cast<TakesBrushColour>(&Target::CreateSolidColorBrush)>::Patch(
         object);
     DrawingHook<"DrawLine", &Target::DrawLine>::Patch(object);
@@ -101,44 +93,38 @@ void WatchDrawing(ID2D1RenderTarget* object)
     MethodHook<"BeginDraw", &Target::BeginDraw>::Patch(object);
     MethodHook<"Flush", &Target::Flush>::Patch(object);
     MethodSlot<&Target::EndDraw>::Hook(object, EndDrawHook);
+    return WatchReferences(object, kind);
+}
+
+// Null for the identifier of another interface.
+template <typename Interface> const char* WatchIf(const GUID& id, void* object)
+{
+    return id == __uuidof(Interface) ? Watch(static_cast<Interface*>(object)) : nullptr;
 }
 
 } // namespace
 
-const char* Watch(ID3D11Device* object)
-{
-    WatchReferences(object);
-    return "D3DDevice";
-}
-
-const char* Watch(ID3D11DeviceContext* object)
-{
-    WatchReferences(object);
-    return "D3DContext";
-}
-
-const char* Watch(IDXGIDevice* object)
-{
-    WatchReferences(object);
-    return "DxgiDevice";
-}
+const char* Watch(ID3D11Device* object) { return WatchReferences(object, "D3DDevice"); }
+const char* Watch(ID3D11DeviceContext* object) { return WatchReferences(object, "D3DContext"); }
+const char* Watch(IDXGIDevice* object) { return WatchReferences(object, "DxgiDevice"); }
+const char* Watch(ID2D1Bitmap1* object) { return WatchReferences(object, "Bitmap"); }
+const char* Watch(ID2D1SolidColorBrush* object) { return WatchReferences(object, "Brush"); }
+const char* Watch(ID2D1StrokeStyle* object) { return WatchReferences(object, "StrokeStyle"); }
 
 const char* Watch(IDXGIFactory2* object)
 {
-    WatchReferences(object);
     MethodSlot<&IDXGIFactory2::CreateSwapChainForComposition>::Hook(object, CreateSwapChainHook);
-    return "DxgiFactory";
+    return WatchReferences(object, "DxgiFactory");
 }
 
 const char* Watch(ID2D1Factory* object)
 {
-    WatchReferences(object);
     MethodHook<"CreateStrokeStyle", static_cast<TakesStroke>(&ID2D1Factory::CreateStrokeStyle)>::Patch(
         object);
     MethodHook<"CreatePathGeometry", static_cast<GivesPath>(&ID2D1Factory::CreatePathGeometry)>::Patch(
         object);
     MethodHook<"CreateDCRenderTarget", &ID2D1Factory::CreateDCRenderTarget>::Patch(object);
-    return "D2DFactory";
+    return WatchReferences(object, "D2DFactory");
 }
 
 const char* Watch(ID2D1Factory2* object)
@@ -152,100 +138,65 @@ const char* Watch(ID2D1Factory2* object)
 const char* Watch(ID2D1Device* object)
 {
     using GivesContext = HRESULT (ID2D1Device::*)(D2D1_DEVICE_CONTEXT_OPTIONS, ID2D1DeviceContext**);
-    WatchReferences(object);
     MethodHook<"CreateDeviceContext", static_cast<GivesContext>(&ID2D1Device::CreateDeviceContext)>::Patch(
         object);
-    return "D2DDevice";
+    return WatchReferences(object, "D2DDevice");
 }
 
 const char* Watch(ID2D1DeviceContext* object)
 {
-    WatchDrawing(object);
     MethodHook<"CreateBitmapFromDxgiSurface",
                static_cast<TakesSurface>(&ID2D1DeviceContext::CreateBitmapFromDxgiSurface)>::Patch(object);
     MethodSlot<&ID2D1DeviceContext::SetTarget>::Hook(object, SetTargetHook);
     NoteTarget(object, nullptr);
-    return "DeviceContext";
+    return WatchDrawing(object, "DeviceContext");
 }
 
 const char* Watch(ID2D1DCRenderTarget* object)
 {
-    WatchDrawing(object);
     MethodHook<"BindDC", &ID2D1DCRenderTarget::BindDC>::Patch(object);
-    return "DCRenderTarget";
-}
-
-const char* Watch(ID2D1Bitmap1* object)
-{
-    WatchReferences(object);
-    return "Bitmap";
-}
-
-const char* Watch(ID2D1SolidColorBrush* object)
-{
-    WatchReferences(object);
-    return "Brush";
-}
-
-const char* Watch(ID2D1StrokeStyle* object)
-{
-    WatchReferences(object);
-    return "StrokeStyle";
+    return WatchDrawing(object, "DCRenderTarget");
 }
 
 const char* Watch(ID2D1PathGeometry* object)
 {
-    WatchReferences(object);
     MethodHook<"Open", &ID2D1PathGeometry::Open>::Patch(object);
-    return "Path";
+    return WatchReferences(object, "Path");
 }
 
 const char* Watch(ID2D1GeometrySink* object)
 {
     using Sink = ID2D1SimplifiedGeometrySink;
-    WatchReferences(object);
     MethodHook<"SetFillMode", &Sink::SetFillMode>::Patch(object);
     MethodHook<"SetSegmentFlags", &Sink::SetSegmentFlags>::Patch(object);
     MethodHook<"BeginFigure", &Sink::BeginFigure>::Patch(object);
     MethodHook<"AddLine", &ID2D1GeometrySink::AddLine>::Patch(object);
     MethodHook<"EndFigure", &Sink::EndFigure>::Patch(object);
     MethodHook<"Close", &Sink::Close>::Patch(object);
-    return "Sink";
+    return WatchReferences(object, "Sink");
 }
 
 const char* Watch(IDWriteFactory* object)
 {
-    WatchReferences(object);
     MethodHook<"CreateTextFormat", &IDWriteFactory::CreateTextFormat>::Patch(object);
-    return "WriteFactory";
+    return WatchReferences(object, "WriteFactory");
 }
 
 const char* Watch(IDWriteTextFormat* object)
 {
-    WatchReferences(object);
     MethodHook<"GetFontSize", &IDWriteTextFormat::GetFontSize>::Patch(object);
-    return "TextFormat";
+    return WatchReferences(object, "TextFormat");
 }
 
 const char* WatchAs(const GUID& id, void* object)
 {
-    if (id == __uuidof(IDXGIDevice)) {
-        return Watch(static_cast<IDXGIDevice*>(object));
+    for (const auto watchIf : {WatchIf<IDXGIDevice>, WatchIf<IDXGIFactory2>, WatchIf<ID2D1Factory>,
+                               WatchIf<ID2D1Factory2>, WatchIf<IDWriteFactory>}) {
+        if (const char* kind = watchIf(id, object)) {
+            return kind;
+        }
     }
-    if (id == __uuidof(IDXGIFactory2)) {
-        return Watch(static_cast<IDXGIFactory2*>(object));
-    }
-    if (id == __uuidof(ID2D1Factory)) {
-        return Watch(static_cast<ID2D1Factory*>(object));
-    }
-    if (id == __uuidof(ID2D1Factory2)) {
-        return Watch(static_cast<ID2D1Factory2*>(object));
-    }
-    if (id == __uuidof(IDWriteFactory)) {
-        return Watch(static_cast<IDWriteFactory*>(object));
-    }
-    WatchReferences(static_cast<IUnknown*>(object));
-    return "Unknown";
+    return WatchReferences(static_cast<IUnknown*>(object), "Unknown");
 }
 
 } // namespace zq::LM::test

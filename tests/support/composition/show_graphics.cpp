@@ -5,43 +5,31 @@ namespace zq::LM::test {
 
 std::string Show(const D2D1_COLOR_F* colour)
 {
-    return colour == nullptr
-               ? "null"
-               : ShowFields({{"", colour->r}, {"", colour->g}, {"", colour->b}, {"", colour->a}});
+    return colour == nullptr ? "null" : ShowFields("", colour->r, colour->g, colour->b, colour->a);
 }
 
-std::string Show(const D2D1_RECT_F* rectangle)
+std::string Show(const D2D1_RECT_F* place)
 {
-    return rectangle == nullptr ? "null"
-                                : ShowFields({{"", rectangle->left},
-                                              {"", rectangle->top},
-                                              {"", rectangle->right},
-                                              {"", rectangle->bottom}});
+    return place == nullptr ? "null" : ShowFields("", place->left, place->top, place->right, place->bottom);
 }
 
-std::string Show(const D2D1_POINT_2F& point) { return ShowFields({{"", point.x}, {"", point.y}}); }
+std::string Show(const D2D1_POINT_2F& point) { return ShowFields("", point.x, point.y); }
 
 std::string Show(const D2D1_MATRIX_3X2_F* matrix)
 {
-    return matrix == nullptr ? "null"
-                             : ShowFields({{"", matrix->_11},
-                                           {"", matrix->_12},
-                                           {"", matrix->_21},
-                                           {"", matrix->_22},
-                                           {"", matrix->_31},
-                                           {"", matrix->_32}});
+    return matrix == nullptr
+               ? "null"
+               : ShowFields("", matrix->_11, matrix->_12, matrix->_21, matrix->_22, matrix->_31, matrix->_32);
 }
 
 std::string Show(const D2D1_STROKE_STYLE_PROPERTIES* properties)
 {
-    return properties == nullptr ? "null"
-                                 : ShowFields({{"start", double(properties->startCap)},
-                                               {"end", double(properties->endCap)},
-                                               {"dash", double(properties->dashCap)},
-                                               {"join", double(properties->lineJoin)},
-                                               {"miter", properties->miterLimit},
-                                               {"style", double(properties->dashStyle)},
-                                               {"offset", properties->dashOffset}});
+    if (properties == nullptr) {
+        return "null";
+    }
+    return ShowFields("start end dash join miter style offset", properties->startCap, properties->endCap,
+                      properties->dashCap, properties->lineJoin, properties->miterLimit,
+                      properties->dashStyle, properties->dashOffset);
 }
 
 std::string Show(const D2D1_BITMAP_PROPERTIES1* properties)
@@ -49,47 +37,36 @@ std::string Show(const D2D1_BITMAP_PROPERTIES1* properties)
     if (properties == nullptr) {
         return "null";
     }
-    const std::string context = Show(properties->colorContext);
-    return ShowFields({{"format", double(properties->pixelFormat.format)},
-                       {"alpha", double(properties->pixelFormat.alphaMode)},
-                       {"dpiX", properties->dpiX},
-                       {"dpiY", properties->dpiY},
-                       {"options", double(properties->bitmapOptions)}}) +
-           " context " + context;
+    return ShowFields("format alpha dpiX dpiY options", properties->pixelFormat.format,
+                      properties->pixelFormat.alphaMode, properties->dpiX, properties->dpiY,
+                      properties->bitmapOptions) +
+           " context " + Show(properties->colorContext);
 }
 
 std::string Show(const D2D1_RENDER_TARGET_PROPERTIES* properties)
 {
-    return properties == nullptr ? "null"
-                                 : ShowFields({{"type", double(properties->type)},
-                                               {"format", double(properties->pixelFormat.format)},
-                                               {"alpha", double(properties->pixelFormat.alphaMode)},
-                                               {"dpiX", properties->dpiX},
-                                               {"dpiY", properties->dpiY},
-                                               {"usage", double(properties->usage)},
-                                               {"level", double(properties->minLevel)}});
+    if (properties == nullptr) {
+        return "null";
+    }
+    return ShowFields("type format alpha dpiX dpiY usage level", properties->type,
+                      properties->pixelFormat.format, properties->pixelFormat.alphaMode, properties->dpiX,
+                      properties->dpiY, properties->usage, properties->minLevel);
 }
 
 std::string Show(const D2D1_FACTORY_OPTIONS* options)
 {
-    return options == nullptr ? "null" : ShowFields({{"debug", double(options->debugLevel)}});
+    return options == nullptr ? "null" : ShowFields("debug", options->debugLevel);
 }
 
-std::string Show(const DXGI_SWAP_CHAIN_DESC1* description)
+std::string Show(const DXGI_SWAP_CHAIN_DESC1* chain)
 {
-    return description == nullptr ? "null"
-                                  : ShowFields({{"width", double(description->Width)},
-                                                {"height", double(description->Height)},
-                                                {"format", double(description->Format)},
-                                                {"stereo", double(description->Stereo)},
-                                                {"samples", double(description->SampleDesc.Count)},
-                                                {"quality", double(description->SampleDesc.Quality)},
-                                                {"usage", double(description->BufferUsage)},
-                                                {"buffers", double(description->BufferCount)},
-                                                {"scaling", double(description->Scaling)},
-                                                {"effect", double(description->SwapEffect)},
-                                                {"alpha", double(description->AlphaMode)},
-                                                {"flags", double(description->Flags)}});
+    if (chain == nullptr) {
+        return "null";
+    }
+    return ShowFields("width height format stereo samples quality usage buffers scaling effect alpha flags",
+                      chain->Width, chain->Height, chain->Format, chain->Stereo, chain->SampleDesc.Count,
+                      chain->SampleDesc.Quality, chain->BufferUsage, chain->BufferCount, chain->Scaling,
+                      chain->SwapEffect, chain->AlphaMode, chain->Flags);
 }
 
 } // namespace zq::LM::test

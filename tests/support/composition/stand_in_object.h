@@ -15,29 +15,28 @@ public:
     StandInObject(const StandInObject&) = delete;
     StandInObject& operator=(const StandInObject&) = delete;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(const GUID& id, void** out) override
+    STDMETHODIMP QueryInterface(const GUID& id, void** out) override
     {
         CallScope scope(LUMORA_CALLER, this, "QueryInterface");
         scope.Arguments(id);
         *out = nullptr;
-        if (const auto chosen = scope.Chosen()) {
-            return scope.Result(*chosen);
-        }
-        const char* foundKind = kind;
-        const HRESULT result = Find_(id, out, foundKind);
-        if (SUCCEEDED(result)) {
-            scope.Made(*out, foundKind);
-        }
-        return scope.Result(result);
+        return scope.Do([&] {
+            const char* foundKind = kind;
+            const HRESULT result = Find_(id, out, foundKind);
+            if (SUCCEEDED(result)) {
+                scope.Made(*out, foundKind);
+            }
+            return result;
+        });
     }
 
-    ULONG STDMETHODCALLTYPE AddRef() override
+    STDMETHODIMP_(ULONG) AddRef() override
     {
         CallScope scope(LUMORA_CALLER, this, "AddRef");
         return scope.Added(Hold());
     }
 
-    ULONG STDMETHODCALLTYPE Release() override
+    STDMETHODIMP_(ULONG) Release() override
     {
         CallScope scope(LUMORA_CALLER, this, "Release");
         return scope.Released(Drop());
@@ -56,7 +55,7 @@ public:
 
 protected:
     // Born with one reference, its maker's.
-    explicit StandInObject(const char* kind) : kind(kind), recorder(Recorder())
+    explicit StandInObject(const char* kind) : kind(kind), recorder(g_recorder)
     {
         if (recorder != nullptr) {
             ++recorder->standIns[kind];
@@ -65,7 +64,7 @@ protected:
 
     virtual ~StandInObject()
     {
-        if (recorder != nullptr && recorder == Recorder()) {
+        if (recorder != nullptr && recorder == g_recorder) {
             --recorder->standIns[kind];
         }
     }

@@ -87,16 +87,14 @@ HRESULT SwapChain::Present(UINT syncInterval, UINT flags)
 {
     CallScope scope(LUMORA_CALLER, this, "Present");
     scope.Arguments(syncInterval, flags);
-    const auto chosen = scope.Chosen();
-    return scope.Result(chosen ? *chosen : Present_(flags));
+    return scope.Do([=, this] { return Present_(flags); });
 }
 
 HRESULT SwapChain::Present1(UINT syncInterval, UINT flags, const DXGI_PRESENT_PARAMETERS* parameters)
 {
     CallScope scope(LUMORA_CALLER, this, "Present1");
     scope.Arguments(syncInterval, flags, static_cast<const void*>(parameters));
-    const auto chosen = scope.Chosen();
-    return scope.Result(chosen ? *chosen : Present_(flags));
+    return scope.Do([=, this] { return Present_(flags); });
 }
 
 HRESULT SwapChain::Present_(UINT flags)
@@ -108,8 +106,8 @@ HRESULT SwapChain::Present_(UINT flags)
     front = ReadPixels(buffers.front().Get());
     front.serial = serial;
     Flip_();
-    if (Recorder() != nullptr) {
-        Recorder()->lastFrame = front;
+    if (g_recorder != nullptr) {
+        g_recorder->lastFrame = front;
     }
     ShowOnTargets(this);
     return S_OK;
@@ -129,30 +127,24 @@ HRESULT SwapChain::GetBuffer(UINT index, const GUID& id, void** out)
 {
     CallScope scope(LUMORA_CALLER, this, "GetBuffer");
     scope.Arguments(index, id);
-    *out = nullptr;
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    if (index >= buffers.size()) {
-        return scope.Result(DXGI_ERROR_INVALID_CALL);
-    }
-    auto* buffer = new BackBuffer(buffers[index].Get());
-    const HRESULT result = buffer->QueryInterface(id, out);
-    buffer->Drop();
-    if (SUCCEEDED(result)) {
-        scope.Made(*out, BackBuffer::Kind);
-    }
-    return scope.Result(result);
+    return scope.Give(out, BackBuffer::Kind, [&] {
+        if (index >= buffers.size()) {
+            return DXGI_ERROR_INVALID_CALL;
+        }
+        auto* buffer = new BackBuffer(buffers[index].Get());
+        const HRESULT result = buffer->QueryInterface(id, out);
+        buffer->Drop();
+        return result;
+    });
 }
 
 HRESULT SwapChain::GetDesc1(DXGI_SWAP_CHAIN_DESC1* out)
 {
     CallScope scope(LUMORA_CALLER, this, "GetDesc1");
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
-    *out = description;
-    return scope.Result(S_OK);
+    return scope.Do([&] {
+        *out = description;
+        return S_OK;
+    });
 }
 
 // A surface, or what is drawn with, keeps a reference to its texture.
@@ -169,9 +161,11 @@ HRESULT SwapChain::ResizeBuffers(UINT count, UINT width, UINT height, DXGI_FORMA
 {
     CallScope scope(LUMORA_CALLER, this, "ResizeBuffers");
     scope.Arguments(count, width, height, format, flags);
-    if (const auto chosen = scope.Chosen()) {
-        return scope.Result(*chosen);
-    }
+    return scope.Do([=, this] { return Resize_(count, width, height, format, flags); });
+}
+
+HRESULT SwapChain::Resize_(UINT count, UINT width, UINT height, DXGI_FORMAT format, UINT flags)
+{
     DXGI_SWAP_CHAIN_DESC1 changed = description;
     changed.BufferCount = count != 0 ? count : changed.BufferCount;
     changed.Width = width;
@@ -179,10 +173,10 @@ HRESULT SwapChain::ResizeBuffers(UINT count, UINT width, UINT height, DXGI_FORMA
     changed.Format = format != DXGI_FORMAT_UNKNOWN ? format : changed.Format;
     changed.Flags = flags;
     if (IsBufferHeld_() || !IsFitForComposition(changed)) {
-        return scope.Result(DXGI_ERROR_INVALID_CALL);
+        return DXGI_ERROR_INVALID_CALL;
     }
     description = changed;
-    return scope.Result(MakeBuffers_());
+    return MakeBuffers_();
 }
 
 HRESULT SwapChain::GetDevice(const GUID& id, void** out) { return device->QueryInterface(id, out); }

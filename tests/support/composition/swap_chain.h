@@ -25,42 +25,34 @@ public:
     // Its last presented frame; the serial is 0 before the first.
     const Frame& Front() const { return front; }
 
-    HRESULT STDMETHODCALLTYPE Present(UINT syncInterval, UINT flags) override;
-    HRESULT STDMETHODCALLTYPE GetBuffer(UINT index, const GUID& id, void** out) override;
-    HRESULT STDMETHODCALLTYPE GetDesc1(DXGI_SWAP_CHAIN_DESC1* out) override;
-    HRESULT STDMETHODCALLTYPE ResizeBuffers(UINT count, UINT width, UINT height, DXGI_FORMAT format,
-                                            UINT flags) override;
-    HRESULT STDMETHODCALLTYPE Present1(UINT syncInterval, UINT flags,
-                                       const DXGI_PRESENT_PARAMETERS* parameters) override;
-    HRESULT STDMETHODCALLTYPE GetDevice(const GUID& id, void** out) override;
+    STDMETHODIMP Present(UINT syncInterval, UINT flags) override;
+    STDMETHODIMP GetBuffer(UINT index, const GUID& id, void** out) override;
+    STDMETHODIMP GetDesc1(DXGI_SWAP_CHAIN_DESC1* out) override;
+    STDMETHODIMP ResizeBuffers(UINT count, UINT width, UINT height, DXGI_FORMAT format, UINT flags) override;
+    STDMETHODIMP Present1(UINT syncInterval, UINT flags, const DXGI_PRESENT_PARAMETERS* parameters) override;
+    STDMETHODIMP GetDevice(const GUID& id, void** out) override;
 
     // What nobody asks a composition chain for.
-    HRESULT STDMETHODCALLTYPE SetPrivateData(const GUID&, UINT, const void*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetPrivateDataInterface(const GUID&, const IUnknown*) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE GetPrivateData(const GUID&, UINT*, void*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetParent(const GUID&, void**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetFullscreenState(BOOL, IDXGIOutput*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetFullscreenState(BOOL*, IDXGIOutput**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetDesc(DXGI_SWAP_CHAIN_DESC*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE ResizeTarget(const DXGI_MODE_DESC*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetContainingOutput(IDXGIOutput**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetFrameStatistics(DXGI_FRAME_STATISTICS*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetLastPresentCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetFullscreenDesc(DXGI_SWAP_CHAIN_FULLSCREEN_DESC*) override
-    {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE GetHwnd(HWND*) override { return DXGI_ERROR_INVALID_CALL; }
-    HRESULT STDMETHODCALLTYPE GetCoreWindow(const GUID&, void**) override { return DXGI_ERROR_INVALID_CALL; }
-    BOOL STDMETHODCALLTYPE IsTemporaryMonoSupported() override { return FALSE; }
-    HRESULT STDMETHODCALLTYPE GetRestrictToOutput(IDXGIOutput**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetBackgroundColor(const DXGI_RGBA*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetBackgroundColor(DXGI_RGBA*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetRotation(DXGI_MODE_ROTATION) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetRotation(DXGI_MODE_ROTATION*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetPrivateData(const GUID&, UINT, const void*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetPrivateDataInterface(const GUID&, const IUnknown*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetPrivateData(const GUID&, UINT*, void*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetParent(const GUID&, void**) override { return E_NOTIMPL; }
+    STDMETHODIMP SetFullscreenState(BOOL, IDXGIOutput*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetFullscreenState(BOOL*, IDXGIOutput**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetDesc(DXGI_SWAP_CHAIN_DESC*) override { return E_NOTIMPL; }
+    STDMETHODIMP ResizeTarget(const DXGI_MODE_DESC*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetContainingOutput(IDXGIOutput**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetFrameStatistics(DXGI_FRAME_STATISTICS*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetLastPresentCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetFullscreenDesc(DXGI_SWAP_CHAIN_FULLSCREEN_DESC*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetHwnd(HWND*) override { return DXGI_ERROR_INVALID_CALL; }
+    STDMETHODIMP GetCoreWindow(const GUID&, void**) override { return DXGI_ERROR_INVALID_CALL; }
+    STDMETHODIMP_(BOOL) IsTemporaryMonoSupported() override { return FALSE; }
+    STDMETHODIMP GetRestrictToOutput(IDXGIOutput**) override { return E_NOTIMPL; }
+    STDMETHODIMP SetBackgroundColor(const DXGI_RGBA*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetBackgroundColor(DXGI_RGBA*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetRotation(DXGI_MODE_ROTATION) override { return E_NOTIMPL; }
+    STDMETHODIMP GetRotation(DXGI_MODE_ROTATION*) override { return E_NOTIMPL; }
 
 private:
     template <typename Interface> using ComPtr = Microsoft::WRL::ComPtr<Interface>;
@@ -72,6 +64,7 @@ private:
     HRESULT MakeBuffers_();
     bool IsBufferHeld_() const;
     HRESULT Present_(UINT flags);
+    HRESULT Resize_(UINT count, UINT width, UINT height, DXGI_FORMAT format, UINT flags);
     void Flip_();
 
     ComPtr<ID3D11Device> device;

@@ -56,21 +56,19 @@ std::string Show(const GUID& id)
     return Narrow(text);
 }
 
-std::string Show(const RECT* rectangle)
+std::string Show(const RECT* place)
 {
-    return rectangle == nullptr ? "null"
-                                : ShowFields({{"", double(rectangle->left)},
-                                              {"", double(rectangle->top)},
-                                              {"", double(rectangle->right)},
-                                              {"", double(rectangle->bottom)}});
+    return place == nullptr ? "null" : ShowFields("", place->left, place->top, place->right, place->bottom);
 }
 
-std::string ShowFields(std::initializer_list<Field> fields)
+std::string ShowList(const std::string& names, const std::vector<double>& values)
 {
+    std::istringstream unused(names);
     std::ostringstream text;
     const char* separator = "{";
-    for (const Field& field : fields) {
-        text << separator << field.name << (*field.name != '\0' ? "=" : "") << field.value;
+    for (const double value : values) {
+        std::string name;
+        text << separator << (unused >> name ? name + "=" : "") << value;
         separator = ", ";
     }
     text << '}';

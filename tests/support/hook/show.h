@@ -5,9 +5,9 @@
 
 #include <windows.h>
 
-#include <initializer_list>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace zq::LM::test {
 
@@ -22,7 +22,7 @@ std::string Show(const wchar_t* text); // in quotes; a resource's number as "#5"
 std::string Show(const char* text);
 std::string Show(const WNDCLASSEXW* description); // by its name
 std::string Show(const GUID& id);
-std::string Show(const RECT* rectangle);
+std::string Show(const RECT* place);
 inline std::string Show(HWND window) { return NameOf(window); }
 
 template <typename Value>
@@ -41,10 +41,12 @@ template <typename Value> std::string Show(Value* pointer)
     return NameOf(reinterpret_cast<const void*>(pointer));
 }
 
-struct Field {
-    const char* name; // may be empty
-    double value;
-};
-std::string ShowFields(std::initializer_list<Field> fields); // "{x=1, y=2}"
+std::string ShowList(const std::string& names, const std::vector<double>& values);
+
+// "{x=1, y=2}" by "x y" and the values, and "{1, 2}" without names.
+template <typename... Values> std::string ShowFields(const char* names, Values... values)
+{
+    return ShowList(names, {static_cast<double>(values)...});
+}
 
 } // namespace zq::LM::test

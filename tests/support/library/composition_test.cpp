@@ -24,12 +24,10 @@ Lines CompositionTest::FrameWith(const std::vector<LM_PenData>& samples)
     return composition.Take();
 }
 
-// No samples, but not no array: that would be no input at all.
 Lines CompositionTest::Frame()
 {
     composition.Take();
-    const LM_PenData unused{};
-    library.InputPenDataArray(&unused, 0);
+    InputNothing();
     UpdateWindow(library.GetWindowHandle());
     return composition.Take();
 }

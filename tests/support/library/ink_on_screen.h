@@ -45,8 +45,7 @@ protected:
     // An input without samples repaints.
     void Refresh() const
     {
-        const LM_PenData unread{};
-        library.InputPenDataArray(&unread, 0);
+        InputNothing();
         Paint();
     }
 

@@ -118,4 +118,15 @@ std::vector<HWND> WindowsOfClass(const std::wstring& prefix)
     return search.found;
 }
 
+std::vector<HWND> OverlayWindows() { return WindowsOfClass(L"Lumora Window Class_"); }
+
+void DestroyLeftWindows(HWND living)
+{
+    for (HWND window : OverlayWindows()) {
+        if (window != living) {
+            DestroyWindow(window);
+        }
+    }
+}
+
 } // namespace zq::LM::test

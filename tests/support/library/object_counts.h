@@ -14,5 +14,9 @@ std::size_t KernelHandles(); // threads, events, files
 
 // This thread's top-level windows whose class name begins so, in no order.
 std::vector<HWND> WindowsOfClass(const std::wstring& prefix);
+std::vector<HWND> OverlayWindows();
+
+// Those that changes of the back-end have left.
+void DestroyLeftWindows(HWND living);
 
 } // namespace zq::LM::test

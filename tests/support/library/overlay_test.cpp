@@ -34,6 +34,18 @@ void OverlayTest::Input(const std::vector<LM_PenData>& samples) const
     library.InputPenDataArray(samples.data(), samples.size());
 }
 
+void OverlayTest::InputNothing() const
+{
+    const LM_PenData unread{};
+    library.InputPenDataArray(&unread, 0);
+}
+
+void OverlayTest::PaintAgain(HWND window)
+{
+    InvalidateRect(window, nullptr, FALSE);
+    UpdateWindow(window);
+}
+
 void OverlayTest::PaintOnce() const { UpdateWindow(library.GetWindowHandle()); }
 
 void OverlayTest::Paint() const

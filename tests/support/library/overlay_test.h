@@ -15,6 +15,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <type_traits>
 #include <vector>
 
 namespace zq::LM::test {
@@ -53,9 +54,17 @@ protected:
 
     LM_Params Params() const;
     void SetParams(const LM_Params& params) const { library.SetParams(&params); }
+    template <typename Field> void SetField(Field LM_Params::*field, std::type_identity_t<Field> value) const
+    {
+        LM_Params params = Params();
+        params.*field = value;
+        SetParams(params);
+    }
     void Input(const std::vector<LM_PenData>& samples) const;
+    void InputNothing() const; // no samples, but not no array: that would be no input at all
     void Paint() const; // and waits until it is on the screen; Wine 10 paints again what has become visible
     void PaintOnce() const; // one frame exactly
+    static void PaintAgain(HWND window);
     void InputAndPaint(const std::vector<LM_PenData>& samples) const;
 
     // Paints what is due in one frame, which runs to its end: one that raises an exception validates the

@@ -1,6 +1,8 @@
 // Reads the real screen and puts windows below the overlay.
 #include "support/screen/screen.h"
 
+#include "support/screen/memory_bitmap.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -11,7 +13,7 @@ namespace {
 int Width(const RECT& rectangle) { return rectangle.right - rectangle.left; }
 int Height(const RECT& rectangle) { return rectangle.bottom - rectangle.top; }
 
-COLORREF FromBgr(DWORD pixel) { return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF); }
+COLORREF FromBgr(std::uint32_t pixel) { return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF); }
 
 struct BackdropState {
     HBRUSH brush;
@@ -102,25 +104,11 @@ std::string Picture::Print(COLORREF background, const RECT& part) const
 
 Picture TakePicture(HDC dc, const RECT& place)
 {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = Width(place);
-    info.bmiHeader.biHeight = -Height(place);
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    HDC memory = CreateCompatibleDC(nullptr);
-    HGDIOBJ previous = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, Width(place), Height(place), dc, place.left, place.top, SRCCOPY);
-    GdiFlush();
-    const auto* first = static_cast<const DWORD*>(bits);
+    const MemoryBitmap copy(Width(place), Height(place));
+    BitBlt(copy.DC(), 0, 0, Width(place), Height(place), dc, place.left, place.top, SRCCOPY);
     std::vector<COLORREF> pixels(static_cast<std::size_t>(Width(place)) *
                                  static_cast<std::size_t>(Height(place)));
-    std::transform(first, first + pixels.size(), pixels.begin(), FromBgr);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
-    DeleteObject(bitmap);
+    std::transform(copy.Pixels(), copy.Pixels() + pixels.size(), pixels.begin(), FromBgr);
     return Picture(place, std::move(pixels));
 }
 
@@ -130,6 +118,19 @@ Picture TakePicture(const RECT& place)
     Picture picture = TakePicture(screen, place);
     ReleaseDC(nullptr, screen);
     return picture;
+}
+
+RECT PlaceOf(HWND window)
+{
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+bool IsAt(HWND window, const RECT& place)
+{
+    const RECT actual = PlaceOf(window);
+    return EqualRect(&actual, &place) != FALSE;
 }
 
 Backdrop::Backdrop(const RECT& place, COLORREF colour)

@@ -33,6 +33,9 @@ private:
 Picture TakePicture(const RECT& place);
 Picture TakePicture(HDC dc, const RECT& place);
 
+RECT PlaceOf(HWND window);
+bool IsAt(HWND window, const RECT& place);
+
 // An opaque window of one colour, below the overlay. Counts the clicks that reach it.
 class Backdrop {
 public:
