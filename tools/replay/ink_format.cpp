@@ -129,9 +129,9 @@ std::string InkFormat::Names() const
 InkFormat PlainInkFormat()
 {
     InkFormat format;
-    format.channels.resize(2);
-    format.channels[0].name = "X";
-    format.channels[1].name = "Y";
+    for (const char name : {'X', 'Y'}) {
+        format.channels.emplace_back().name = std::string(1, name);
+    }
     return format;
 }
 
