@@ -121,6 +121,28 @@ TEST(Options, LogLevelAndLibraryAreTaken)
     EXPECT_EQ(options.library, "b.dll");
 }
 
+TEST(Options, TimeUnitIsNamed)
+{
+    EXPECT_EQ(Parse({"a"}).timeUnit, std::nullopt);
+    EXPECT_EQ(Parse({"a", "--time-unit", "s"}).timeUnit, TimeUnit::Seconds);
+    EXPECT_EQ(Parse({"a", "--time-unit", "ms"}).timeUnit, TimeUnit::Milliseconds);
+    EXPECT_EQ(Parse({"a", "--time-unit", "us"}).timeUnit, TimeUnit::Microseconds);
+}
+
+TEST(Options, SaveTakesAFileOfAKnownKind)
+{
+    EXPECT_EQ(Parse({"a", "--save", "b.svc"}).save, "b.svc");
+    EXPECT_EQ(Parse({"a", "--save", "B.InkML"}).save, "B.InkML");
+    EXPECT_FALSE(Parse({"a", "--save", "b.svc"}).overwrite);
+}
+
+TEST(Options, SaveGoesWithOverwriteAndTimeUnit)
+{
+    const Options options = Parse({"--overwrite", "--time-unit", "s", "a", "--save", "b.svc"});
+    EXPECT_EQ(options.save, "b.svc");
+    EXPECT_TRUE(options.overwrite);
+}
+
 TEST(Options, HelpNeedsNoRecording) { EXPECT_TRUE(Parse({"--help"}).help); }
 
 TEST(Options, HelpIsGivenWhateverFollows) { EXPECT_TRUE(Parse({"--help", "--nonsense"}).help); }
@@ -188,6 +210,21 @@ TEST(OptionMistakes, UnknownBackEnd)
     EXPECT_EQ(ErrorOf({"a", "--backend", "GL"}), "--backend needs gdi, d2d or composition, not \"GL\"");
 }
 
+TEST(OptionMistakes, SaveBesideAnOptionAboutPlaying)
+{
+    EXPECT_EQ(ErrorOf({"a", "--save", "b.svc", "--speed", "2"}),
+              "--save plays nothing, so --speed cannot stand beside it");
+    EXPECT_EQ(ErrorOf({"--zebra", "a", "--save", "b.svc"}),
+              "--save plays nothing, so --zebra cannot stand beside it");
+    EXPECT_EQ(ErrorOf({"a", "--dll", "b.dll", "--save", "b.svc"}),
+              "--save plays nothing, so --dll cannot stand beside it");
+}
+
+TEST(OptionMistakes, OverwriteWithoutSave)
+{
+    EXPECT_EQ(ErrorOf({"a", "--overwrite"}), "--overwrite needs --save");
+}
+
 class BadValue : public testing::TestWithParam<std::vector<std::string>> {};
 
 TEST_P(BadValue, IsRefusedWithItsOption)
@@ -220,6 +257,13 @@ INSTANTIATE_TEST_SUITE_P(Switch, BadValue,
                                          std::vector<std::string>{"--switch", "-5:gdi"},
                                          std::vector<std::string>{"--switch", "5:GL"}));
 
+INSTANTIATE_TEST_SUITE_P(Files, BadValue,
+                         testing::Values(std::vector<std::string>{"--save", "b.txt"},
+                                         std::vector<std::string>{"--save", "svc"},
+                                         std::vector<std::string>{"--save", ""},
+                                         std::vector<std::string>{"--time-unit", "min"},
+                                         std::vector<std::string>{"--time-unit", ""}));
+
 INSTANTIATE_TEST_SUITE_P(Numbers, BadValue,
                          testing::Values(std::vector<std::string>{"--brush", "-1"},
                                          std::vector<std::string>{"--min-brush", "1.5"},
@@ -235,9 +279,10 @@ TEST(Help, NamesEveryOptionAndStatus)
 {
     const std::string help = HelpText();
     for (const char* text :
-         {"--backend", "--switch", "--speed", "--screenshot", "--colour", "--brush", "--min-brush",
-          "--max-pressure", "--life", "--outline", "--no-line", "--no-cursor", "--no-pressure", "--offset",
-          "--zebra", "--log-level", "--dll", "--help", "Exit status"}) {
+         {"--backend",     "--switch",       "--speed",     "--screenshot", "--colour",  "--brush",
+          "--min-brush",   "--max-pressure", "--life",      "--outline",    "--no-line", "--no-cursor",
+          "--no-pressure", "--offset",       "--zebra",     "--log-level",  "--dll",     "--help",
+          "--save",        "--overwrite",    "--time-unit", "Exit status"}) {
         EXPECT_THAT(help, HasSubstr(text));
     }
 }

@@ -6,9 +6,9 @@
 namespace lumora::replay {
 namespace {
 
-RecordedSample At(std::int32_t x, std::int32_t y) { return {x, y, 0, 0, true}; }
+RecordedSample At(double x, double y) { return {x, y, 0, 0, true}; }
 
-Recording Box(std::int32_t width, std::int32_t height, bool yUpwards)
+Recording Box(double width, double height, bool yUpwards)
 {
     return {{At(0, 0), At(width, height)}, yUpwards};
 }
@@ -67,6 +67,13 @@ TEST(Placement, FlatLineIsScaledByItsWidth)
     EXPECT_EQ(placement.Place(At(0, 5)).y, 200);
 }
 
+TEST(Placement, RecordingInPartsOfAUnitFillsTheScreenToo)
+{
+    const Placement placement(Box(0.5, 0.001, true), {1000, 500});
+    EXPECT_EQ(placement.Place(At(0, 0)).x, 40);
+    EXPECT_EQ(placement.Place(At(0.5, 0)).x, 960);
+}
+
 TEST(Placement, PositionsOffTheScreenAreMovedOntoIt)
 {
     const Placement placement(Box(100, 100, true), {500, 400});
@@ -85,8 +92,8 @@ TEST(Placement, NothingIsPlacedAtZeroOnAScreenOfOnePixel)
 
 TEST(Placement, WidestPossibleRecordingStaysOnTheScreen)
 {
-    const std::int32_t least = -2147483647 - 1;
-    const std::int32_t most = 2147483647;
+    const double least = -MaxPosition;
+    const double most = MaxPosition;
     const Placement placement({{At(least, least), At(most, most)}, true}, {1000, 500});
     EXPECT_EQ(placement.Place(At(least, least)).y, 460);
     EXPECT_EQ(placement.Place(At(most, most)).y, 40);

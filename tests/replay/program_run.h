@@ -68,6 +68,8 @@ protected:
         std::ofstream(folder / name, std::ios::binary) << text;
     }
 
+    std::string Content(const std::filesystem::path& name) const { return ReadAll(folder / name); }
+
     std::filesystem::path folder; // the program runs in it
 
 private:

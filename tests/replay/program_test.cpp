@@ -61,6 +61,56 @@ TEST_F(Program, NamesBeyondAsciiAreReadAndReportedAsUtf8)
     EXPECT_THAT(outcome.error, StartsWith("\xC3\xBC\xCE\xB1.svc:1: "));
 }
 
+TEST_F(Program, SavesARecordingInTheOtherFormatAndBack)
+{
+    Write("good.svc", OneSample);
+    const Outcome there = Run(L"good.svc --save good.inkml");
+    EXPECT_EQ(there.status, 0U) << there.error;
+    EXPECT_EQ(there.output, "saved good.inkml\n");
+    const Outcome back = Run(L"good.inkml --save back.svc");
+    EXPECT_EQ(back.status, 0U) << back.error;
+    EXPECT_EQ(Content("back.svc"), OneSample);
+}
+
+TEST_F(Program, SavesUnderNamesBeyondAscii)
+{
+    Write("good.svc", OneSample);
+    const Outcome outcome = Run(L"good.svc --save \u00fc\u03b1.svc");
+    EXPECT_EQ(outcome.output, "saved \xC3\xBC\xCE\xB1.svc\n");
+    EXPECT_EQ(Content(std::filesystem::path(L"\u00fc\u03b1.svc")), OneSample);
+}
+
+TEST_F(Program, FileThatIsThereIsOnlyReplacedWhenTold)
+{
+    Write("good.svc", OneSample);
+    Write("old.svc", "old");
+    const Outcome kept = Run(L"good.svc --save old.svc");
+    EXPECT_EQ(kept.status, 1U);
+    EXPECT_EQ(kept.output, "");
+    EXPECT_EQ(
+        kept.error,
+        "lumora-replay: old.svc cannot be saved: there is such a file already (--overwrite replaces it)\n");
+    EXPECT_EQ(Content("old.svc"), "old");
+    EXPECT_EQ(Run(L"good.svc --save old.svc --overwrite").status, 0U);
+    EXPECT_EQ(Content("old.svc"), OneSample);
+}
+
+TEST_F(Program, RecordingMayBeSavedOverItself)
+{
+    Write("good.svc", std::string("# mine\n") + OneSample);
+    EXPECT_EQ(Run(L"good.svc --save good.svc --overwrite").status, 0U);
+    EXPECT_EQ(Content("good.svc"), OneSample);
+}
+
+TEST_F(Program, DamagedInkmlIsOneLineWithFileAndLineAndStatus2)
+{
+    Write("bad.inkml", "<ink>\n<trace>1 b</trace></ink>");
+    const Outcome outcome = Run(L"bad.inkml");
+    EXPECT_EQ(outcome.status, 2U);
+    ExpectOneLine(outcome.error);
+    EXPECT_THAT(outcome.error, StartsWith("bad.inkml:2: a value is expected here"));
+}
+
 TEST_F(Program, MissingLibraryIsOneLineWithStatus1)
 {
     Write("good.svc", OneSample);

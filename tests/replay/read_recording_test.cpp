@@ -41,6 +41,47 @@ TEST_F(ReadRecordingTest, FileIsReadAsSvc)
     EXPECT_EQ(std::get<Recording>(result).samples.size(), 1U);
 }
 
+TEST_F(ReadRecordingTest, ContentTellsInkmlWhateverTheName)
+{
+    Write(".svc", "\xEF\xBB\xBF\n <ink><trace>1 2, 3 4</trace></ink>");
+    const RecordingResult result = ReadRecording(file);
+    ASSERT_TRUE(std::holds_alternative<Recording>(result)) << ErrorOf(result).reason;
+    EXPECT_EQ(std::get<Recording>(result).samples.size(), 2U);
+}
+
+TEST_F(ReadRecordingTest, ContentTellsSvcWhateverTheName)
+{
+    Write(".inkml", "1\n1 2 3 1 0 0 5\n");
+    EXPECT_TRUE(std::holds_alternative<Recording>(ReadRecording(file)));
+}
+
+TEST_F(ReadRecordingTest, EmptyFileIsReadAsSvc)
+{
+    Write(".inkml", "");
+    EXPECT_EQ(ErrorOf(ReadRecording(file)).reason, "the file is empty");
+}
+
+TEST_F(ReadRecordingTest, Utf16IsNamedSo)
+{
+    Write(".inkml", std::string("\xFF\xFE<\0i\0", 6));
+    EXPECT_EQ(ErrorOf(ReadRecording(file)).line, 1U);
+    EXPECT_EQ(ErrorOf(ReadRecording(file)).reason, "the file is UTF-16 text; only UTF-8 is read");
+}
+
+TEST_F(ReadRecordingTest, ToldUnitReachesBothReaders)
+{
+    Write(".svc", "2\n1 2 3 1 0 0 5\n1 2 4 1 0 0 5\n");
+    const RecordingResult svc = ReadRecording(file, TimeUnit::Seconds);
+    ASSERT_TRUE(std::holds_alternative<Recording>(svc)) << ErrorOf(svc).reason;
+    EXPECT_EQ(std::get<Recording>(svc).samples.back().time, 4000);
+
+    Write(".svc", "<ink><traceFormat><channel name='X'/><channel name='Y'/><channel name='T' units='ms'/>"
+                  "</traceFormat><trace>1 2 3, 1 2 4</trace></ink>");
+    const RecordingResult inkml = ReadRecording(file, TimeUnit::Seconds);
+    ASSERT_TRUE(std::holds_alternative<Recording>(inkml)) << ErrorOf(inkml).reason;
+    EXPECT_EQ(std::get<Recording>(inkml).samples.back().time, 4000);
+}
+
 TEST_F(ReadRecordingTest, NameBeyondAsciiIsFound)
 {
     Write(std::filesystem::path(u8"-\u00fcbung-\u03b1.svc"), "1\n1 2 3 1 0 0 5\n");
@@ -72,9 +113,9 @@ TEST(ShippedRecording, IsWellFormedAndPlaysForFourToSixSeconds)
     const RecordingResult result = ReadRecording(u8"" SHIPPED_RECORDING);
     ASSERT_TRUE(std::holds_alternative<Recording>(result)) << std::get<RecordingError>(result).reason;
     const auto& samples = std::get<Recording>(result).samples;
-    const std::uint32_t duration = samples.back().time - samples.front().time;
-    EXPECT_GE(duration, 4000U);
-    EXPECT_LE(duration, 6000U);
+    const double duration = samples.back().time - samples.front().time;
+    EXPECT_GE(duration, 4000);
+    EXPECT_LE(duration, 6000);
 }
 
 TEST(ErrorDescription, IsFileLineAndReason)

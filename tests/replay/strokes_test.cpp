@@ -8,14 +8,8 @@ namespace {
 
 using testing::ElementsAre;
 
-RecordedSample Touch(std::uint32_t time, std::int32_t pressure = 500)
-{
-    return {10, 10, time, pressure, true};
-}
-RecordedSample Hover(std::uint32_t time, std::int32_t pressure = 0)
-{
-    return {20, 20, time, pressure, false};
-}
+RecordedSample Touch(double time, double pressure = 500) { return {10, 10, time, pressure, true}; }
+RecordedSample Hover(double time, double pressure = 0) { return {20, 20, time, pressure, false}; }
 
 std::vector<TimedSample> Make(const std::vector<RecordedSample>& samples)
 {
@@ -71,7 +65,7 @@ TEST(Strokes, AddedEndHasPositionAndTimeOfTheLastTouch)
 {
     const auto made = Make({Hover(100), Touch(107)});
     ASSERT_EQ(made.size(), 3U);
-    EXPECT_EQ(made[2].recordedTime, 7U);
+    EXPECT_EQ(made[2].recordedTime, 7);
     EXPECT_EQ(made[2].data.time, made[1].data.time);
     EXPECT_EQ(made[2].data.x, made[1].data.x);
     EXPECT_EQ(made[2].data.y, made[1].data.y);
@@ -80,8 +74,8 @@ TEST(Strokes, AddedEndHasPositionAndTimeOfTheLastTouch)
 TEST(Strokes, TimesCountFromTheFirstSample)
 {
     const auto made = Make({Hover(5000), Hover(5008)});
-    EXPECT_EQ(made[0].recordedTime, 0U);
-    EXPECT_EQ(made[1].recordedTime, 8U);
+    EXPECT_EQ(made[0].recordedTime, 0);
+    EXPECT_EQ(made[1].recordedTime, 8);
 }
 
 TEST(Strokes, TimeZeroBecomesOne) { EXPECT_EQ(Make({Hover(0)})[0].data.time, 1U); }
@@ -90,8 +84,32 @@ TEST(Strokes, RecordedTimeIsHandedOn) { EXPECT_EQ(Make({Hover(354642400)})[0].da
 
 TEST(Strokes, WideRangeOfTimesDoesNotWrap)
 {
-    const auto made = Make({Hover(0), Hover(4294967295U)});
-    EXPECT_EQ(made[1].recordedTime, 4294967295U);
+    const auto made = Make({Hover(0), Hover(4294967295.0)});
+    EXPECT_EQ(made[1].recordedTime, 4294967295.0);
+}
+
+TEST(Strokes, PartsOfAMillisecondAreKeptForTheTimeline)
+{
+    const auto made = Make({Hover(10.25), Hover(17.75)});
+    EXPECT_EQ(made[1].recordedTime, 7.5);
+    EXPECT_EQ(made[1].data.time, 17U);
+}
+
+TEST(Strokes, TimeBeyond32BitsWrapsForTheLibrary)
+{
+    EXPECT_EQ(Make({Hover(4294967296.0 + 5)})[0].data.time, 5U);
+}
+
+TEST(Strokes, TimeThatWrapsToZeroBecomesOne) { EXPECT_EQ(Make({Hover(4294967296.0)})[0].data.time, 1U); }
+
+TEST(Strokes, PressureIsRounded)
+{
+    EXPECT_THAT(Pressures({Touch(1, 16383.5), Hover(9)}), ElementsAre(16384, 0));
+}
+
+TEST(Strokes, FaintTouchStillTouches)
+{
+    EXPECT_THAT(Pressures({Touch(1, 0.2), Hover(9)}), ElementsAre(1, 0));
 }
 
 TEST(Strokes, EmptyRecordingHasNoSamples) { EXPECT_TRUE(Make({}).empty()); }

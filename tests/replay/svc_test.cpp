@@ -1,5 +1,5 @@
 // The SVC reader: what it accepts, and the line and reason of every kind of damage.
-#include "recording.h"
+#include "svc.h"
 
 #include <gmock/gmock.h>
 
@@ -10,15 +10,15 @@ namespace {
 
 using testing::HasSubstr;
 
-RecordingResult Read(const std::string& text)
+RecordingResult Read(const std::string& text, std::optional<TimeUnit> told = std::nullopt)
 {
     std::istringstream input(text);
-    return ReadSvc(input);
+    return ReadSvc(input, told);
 }
 
-std::vector<RecordedSample> SamplesOf(const std::string& text)
+std::vector<RecordedSample> SamplesOf(const std::string& text, std::optional<TimeUnit> told = std::nullopt)
 {
-    const RecordingResult result = Read(text);
+    const RecordingResult result = Read(text, told);
     if (const auto* error = std::get_if<RecordingError>(&result)) {
         ADD_FAILURE() << "line " << error->line << ": " << error->reason;
         return {};
@@ -42,8 +42,10 @@ TEST(Svc, ColumnsBecomeASample)
     ASSERT_EQ(samples.size(), 1U);
     EXPECT_EQ(samples[0].x, 4034);
     EXPECT_EQ(samples[0].y, 7509);
-    EXPECT_EQ(samples[0].time, 354642400U);
+    EXPECT_EQ(samples[0].time, 354642400);
     EXPECT_EQ(samples[0].pressure, 10852);
+    EXPECT_EQ(samples[0].azimuth, 1190);
+    EXPECT_EQ(samples[0].altitude, 720);
     EXPECT_TRUE(samples[0].touches);
 }
 
@@ -65,10 +67,88 @@ TEST(Svc, NegativePositionsAreAccepted)
     const auto samples = SamplesOf("1\n-5 -2147483648 3 1 0 0 5\n");
     ASSERT_EQ(samples.size(), 1U);
     EXPECT_EQ(samples[0].x, -5);
-    EXPECT_EQ(samples[0].y, -2147483647 - 1);
+    EXPECT_EQ(samples[0].y, -2147483648.0);
 }
 
-TEST(Svc, LargestTimeIsAccepted) { EXPECT_EQ(SamplesOf("1\n1 2 4294967295 1 0 0 5\n").size(), 1U); }
+TEST(Svc, LargestTimeIsAccepted)
+{
+    const auto samples = SamplesOf("1\n1 2 9007199254740991 1 0 0 5\n");
+    ASSERT_EQ(samples.size(), 1U);
+    EXPECT_EQ(samples[0].time, 9007199254740991.0);
+}
+
+TEST(Svc, DecimalsAreRead)
+{
+    const auto samples = SamplesOf("1\n12.5 -.25 3.75 1 119.4 72.1 1.5e3\n");
+    ASSERT_EQ(samples.size(), 1U);
+    EXPECT_EQ(samples[0].x, 12.5);
+    EXPECT_EQ(samples[0].y, -0.25);
+    EXPECT_EQ(samples[0].time, 3.75);
+    EXPECT_EQ(samples[0].azimuth, 119.4);
+    EXPECT_EQ(samples[0].altitude, 72.1);
+    EXPECT_EQ(samples[0].pressure, 1500);
+}
+
+TEST(Svc, PenColumnMayBeWrittenAsADecimal)
+{
+    const auto samples = SamplesOf("2\n1 2 3 1.0 0 0 5\n1 2 4 0.0 0 0 5\n");
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_TRUE(samples[0].touches);
+    EXPECT_FALSE(samples[1].touches);
+}
+
+TEST(Svc, SharesOfPressureBecomePartsOfTheFullOne)
+{
+    const auto samples = SamplesOf("2\n1 2 3 1 0 0 0.5\n1 2 4 1 0 0 1\n");
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_EQ(samples[0].pressure, 16383.5);
+    EXPECT_EQ(samples[1].pressure, 32767);
+}
+
+TEST(Svc, WholePressuresUpToOneAreTakenAsTheyAre)
+{
+    const auto samples = SamplesOf("2\n1 2 3 1 0 0 0\n1 2 4 1 0 0 1\n");
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_EQ(samples[1].pressure, 1);
+}
+
+TEST(Svc, FractionsAmongGreaterPressuresAreTakenAsTheyAre)
+{
+    const auto samples = SamplesOf("2\n1 2 3 1 0 0 0.5\n1 2 4 1 0 0 900\n");
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_EQ(samples[0].pressure, 0.5);
+}
+
+TEST(Svc, TimesInSecondsAreNoticed)
+{
+    const auto samples = SamplesOf("3\n1 2 10.000 1 0 0 5\n1 2 10.0075 1 0 0 5\n1 2 10.015 1 0 0 5\n");
+    ASSERT_EQ(samples.size(), 3U);
+    EXPECT_EQ(samples[0].time, 10000);
+    EXPECT_EQ(samples[1].time, 10007.5);
+    EXPECT_EQ(samples[2].time, 10015);
+}
+
+TEST(Svc, ToldUnitHolds)
+{
+    const auto samples = SamplesOf("2\n1 2 3 1 0 0 5\n1 2 4 1 0 0 5\n", TimeUnit::Seconds);
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_EQ(samples[1].time, 4000);
+}
+
+TEST(Svc, CommentNamesTheUnit)
+{
+    const auto samples = SamplesOf("# time-unit: us\n2\n1 2 3000 1 0 0 5\n1 2 4000 1 0 0 5\n");
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_EQ(samples[1].time, 4);
+}
+
+TEST(Svc, ToldUnitStandsAboveTheComment)
+{
+    const auto samples =
+        SamplesOf("# time-unit: us\n2\n1 2 3 1 0 0 5\n1 2 4 1 0 0 5\n", TimeUnit::Milliseconds);
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_EQ(samples[1].time, 4);
+}
 
 TEST(Svc, CommentLinesBeforeTheCountAreSkipped)
 {
@@ -100,7 +180,7 @@ TEST(Svc, JumpOfSecondsBetweenSamplesIsKept)
 {
     const auto samples = SamplesOf("2\n1 2 3 1 0 0 5\n1 2 9003 1 0 0 5\n");
     ASSERT_EQ(samples.size(), 2U);
-    EXPECT_EQ(samples[1].time, 9003U);
+    EXPECT_EQ(samples[1].time, 9003);
 }
 
 TEST(SvcDamage, EmptyFile) { ExpectError("", 1, "empty"); }
@@ -135,7 +215,7 @@ TEST(Svc, MoreSamplesThanSaidAreAllRead)
 {
     const auto samples = SamplesOf("1\n1 2 3 1 0 0 5\n1 2 4 1 0 0 5\n");
     ASSERT_EQ(samples.size(), 2U);
-    EXPECT_EQ(samples[1].time, 4U);
+    EXPECT_EQ(samples[1].time, 4);
 }
 
 TEST(SvcDamage, ASampleBehindThoseAnnouncedIsBroken)
@@ -156,15 +236,52 @@ TEST(SvcDamage, CommentAfterTheCount) { ExpectError("1\n# a\n1 2 3 1 0 0 5\n", 2
 
 TEST(SvcDamage, ColumnIsNotANumber)
 {
-    ExpectError("1\n1 b 3 1 0 0 5\n", 2, "column 2 (y) is not a whole number: \"b\"");
+    ExpectError("1\n1 b 3 1 0 0 5\n", 2, "column 2 (y) is not a number: \"b\"");
 }
 
-TEST(SvcDamage, ColumnIsAFraction)
+TEST(SvcDamage, WordsForNumbersAreNone)
 {
-    ExpectError("1\n1.5 2 3 1 0 0 5\n", 2, "column 1 (x) is not a whole number");
+    ExpectError("1\ninf 2 3 1 0 0 5\n", 2, "column 1 (x) is not a number: \"inf\"");
+    ExpectError("1\n1 nan 3 1 0 0 5\n", 2, "column 2 (y) is not a number: \"nan\"");
 }
 
-TEST(SvcDamage, PositionOutOfRange) { ExpectError("1\n2147483648 2 3 1 0 0 5\n", 2, "column 1 (x) must be"); }
+TEST(SvcDamage, DecimalComma)
+{
+    ExpectError("1\n1,5 2 3 1 0 0 5\n", 2, "column 1 (x) is not a number: \"1,5\"");
+}
+
+TEST(SvcDamage, NumberIsCutOff) { ExpectError("1\n1e 2 3 1 0 0 5\n", 2, "column 1 (x) is not a number"); }
+
+TEST(SvcDamage, ExponentIsBeyondAnyRange)
+{
+    ExpectError("1\n1e999 2 3 1 0 0 5\n", 2,
+                "column 1 (x) must be -2147483648 to 2147483648; it is \"1e999\"");
+}
+
+TEST(SvcDamage, PenColumnIsAFraction)
+{
+    ExpectError("1\n1 2 3 0.5 0 0 5\n", 2, "column 4 (pen) must be 0 or 1; it is \"0.5\"");
+}
+
+TEST(SvcDamage, UnknownUnitInAComment)
+{
+    ExpectError("# time-unit: min\n1\n1 2 3 1 0 0 5\n", 1, "the unit of time must be s, ms or us");
+}
+
+TEST(SvcDamage, TimeIsTooLargeOnceItIsInMilliseconds)
+{
+    const RecordingResult result = Read("1\n1 2 9007199254740991 1 0 0 5\n", TimeUnit::Seconds);
+    ASSERT_TRUE(std::holds_alternative<RecordingError>(result));
+    EXPECT_EQ(std::get<RecordingError>(result).line, 2U);
+    EXPECT_THAT(std::get<RecordingError>(result).reason, HasSubstr("more than 9007199254740991 ms"));
+}
+
+TEST(SvcDamage, SampleMoreThanFortyNineDaysAfterTheFirst)
+{
+    ExpectError("2\n1 2 3 1 0 0 5\n1 2 4294967299 1 0 0 5\n", 3, "more than 49 days after the first");
+}
+
+TEST(SvcDamage, PositionOutOfRange) { ExpectError("1\n2147483649 2 3 1 0 0 5\n", 2, "column 1 (x) must be"); }
 
 TEST(SvcDamage, NumberBeyondAnyRange)
 {
@@ -173,7 +290,10 @@ TEST(SvcDamage, NumberBeyondAnyRange)
 
 TEST(SvcDamage, NegativeTime) { ExpectError("1\n1 2 -3 1 0 0 5\n", 2, "column 3 (time) must be 0 to"); }
 
-TEST(SvcDamage, TimeOutOfRange) { ExpectError("1\n1 2 4294967296 1 0 0 5\n", 2, "column 3 (time) must be"); }
+TEST(SvcDamage, TimeOutOfRange)
+{
+    ExpectError("1\n1 2 9007199254740993 1 0 0 5\n", 2, "column 3 (time) must be");
+}
 
 TEST(SvcDamage, PenColumnIsNeitherZeroNorOne)
 {

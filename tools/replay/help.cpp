@@ -8,12 +8,34 @@ std::string HelpText()
     return R"(lumora-replay plays a pen recording as ink on the screen.
 
 Usage: lumora-replay RECORDING [OPTION...]
+       lumora-replay RECORDING --save FILE [--overwrite]
 
-RECORDING is an SVC file: comment lines that begin with '#', a line with the number of samples, then one sample a
-line: x, y (upwards), time in ms, 1 = touches or 0 = hovers, azimuth, altitude, pressure (0 to 32767). The writing is
-scaled to the screen and played at its own pace. The program ends when the ink of the last sample has gone and the
-last screenshot is taken; Ctrl+C ends it earlier. At the end it prints the latency from the call that hands samples
-over to the end of the paint that shows them.
+RECORDING is an SVC or an InkML file. The writing is scaled to the screen and played at its own pace. The program ends
+when the ink of the last sample has gone and the last screenshot is taken; Ctrl+C ends it earlier. At the end it prints
+the latency from the call that hands samples over to the end of the paint that shows them.
+
+Recordings:
+  SVC     Comment lines that begin with '#', a line with the number of samples, then one sample a line: x, y
+          (upwards), time, 1 = touches or 0 = hovers, azimuth, altitude, pressure. All may have decimals.
+          The unit of the times is guessed from the typical step between samples (the mean of all steps but the
+          longest tenth): below 0.2 it is seconds, from 500 on microseconds, else milliseconds. Files of less than
+          eleven samples are never taken for microseconds. A comment "# time-unit: s" (ms, us) says it.
+  InkML   What the file's first character '<' tells, not its name. Traces are played in the order of the file, with
+          their channels X, Y, F (pressure), T (time) and S (whether the tip touches), found by the trace format of
+          their context; other channels are stepped over. T is in milliseconds unless its format's units say s, ms
+          or us. Without T samples come as often as the sampleRate says, or every 8 ms, and traces 200 ms apart;
+          a trace that would begin before the end of the one above it follows it by 200 ms. Traces of type penUp
+          hover. Pressure is scaled from the channel's max; it is full where a touching pen has none.
+          Not supported: document type declarations with declarations inside, references to other files, text
+          other than UTF-8. Traces in definitions, trace views, canvas transforms, mappings, the times of timestamps
+          and brushes are not looked at.
+  In both, pressures from 0 to 1 with decimals are shares of the full one, where the file does not say what is full.
+
+  --time-unit UNIT        the unit of the recording's times, s, ms or us, whatever the file says or suggests
+  --save FILE             play nothing, but save the recording as FILE, which ends in .svc or .inkml. Options about
+                          playing cannot stand beside it.
+  --overwrite             with --save: replace FILE if it is there. Without this it is left as it is, and the status
+                          is 1.
 
 Playing:
   --backend NAME          composition, d2d or gdi (default composition, which shows nothing without the system's
@@ -43,8 +65,8 @@ Ink:
   --                      what follows is the recording's name, even if it begins with '-'
 
 Exit status:
-  0     the recording was played and every screenshot saved
-  1     the library cannot be loaded or used, or a screenshot cannot be saved
+  0     the recording was played and every screenshot saved, or the recording was saved
+  1     the library cannot be loaded or used, or a screenshot or the recording cannot be saved
   2     the command line or the recording is wrong
   130   ended by Ctrl+C, or because the overlay window was closed
 )";

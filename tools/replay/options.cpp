@@ -1,5 +1,6 @@
 // Parses the command line of lumora-replay.
 #include "options.h"
+#include "save_recording.h"
 
 #include <algorithm>
 #include <array>
@@ -59,6 +60,9 @@ constexpr std::array FlagOptions = {
     FlagOption{"--no-cursor", &InkChanges::noCursor}, FlagOption{"--no-pressure", &InkChanges::noPressure},
     FlagOption{"--offset", &InkChanges::offset},      FlagOption{"--zebra", &InkChanges::zebra},
 };
+
+constexpr std::string_view SaveOption = "--save";
+constexpr std::string_view OverwriteOption = "--overwrite";
 
 constexpr std::string_view WholeNumber = "a whole number from 0 to 4294967295";
 
@@ -151,6 +155,18 @@ bool ReadLibrary(std::string_view text, Options& options)
     return !text.empty();
 }
 
+bool ReadTimeUnit(std::string_view text, Options& options)
+{
+    options.timeUnit = ParseTimeUnit(text);
+    return options.timeUnit.has_value();
+}
+
+bool ReadSave(std::string_view text, Options& options)
+{
+    options.save = text;
+    return FormatOf(text).has_value();
+}
+
 const std::vector<ValueOption>& ValueOptions()
 {
     static const std::vector<ValueOption> Table = {
@@ -165,6 +181,8 @@ const std::vector<ValueOption>& ValueOptions()
         InkNumber("--life", &InkChanges::inkLifeMs),
         {"--log-level", WholeNumber, ReadLogLevel},
         {"--dll", "the name of a file", ReadLibrary},
+        {"--time-unit", "s, ms or us", ReadTimeUnit},
+        {SaveOption, "the name of a file that ends in .svc or .inkml", ReadSave},
     };
     return Table;
 }
@@ -207,6 +225,10 @@ std::optional<OptionsError> ReadArgument(const std::vector<std::string>& argumen
         options.help = true;
         return std::nullopt;
     }
+    if (argument == OverwriteOption) {
+        options.overwrite = true;
+        return std::nullopt;
+    }
     const auto isNamed = [&argument](const auto& option) { return option.name == argument; };
     const auto flag = std::find_if(FlagOptions.begin(), FlagOptions.end(), isNamed);
     if (flag != FlagOptions.end()) {
@@ -221,13 +243,37 @@ std::optional<OptionsError> ReadArgument(const std::vector<std::string>& argumen
     return ReadValue(*valued, index < arguments.size() ? &arguments[index] : nullptr, options);
 }
 
+bool IsAboutPlaying(std::string_view argument)
+{
+    constexpr std::array<std::string_view, 3> AboutFiles = {SaveOption, OverwriteOption, "--time-unit"};
+    return argument.starts_with('-') &&
+           std::find(AboutFiles.begin(), AboutFiles.end(), argument) == AboutFiles.end();
+}
+
+// What no single argument can tell; `playing` is one of the options about playing, if there are any.
+std::optional<OptionsError> CheckWhole(const Options& options, const std::string& playing)
+{
+    if (options.recording.empty()) {
+        return OptionsError{"no recording is given"};
+    }
+    if (!options.save.empty() && !playing.empty()) {
+        return OptionsError{"--save plays nothing, so " + playing + " cannot stand beside it"};
+    }
+    if (options.save.empty() && options.overwrite) {
+        return OptionsError{"--overwrite needs --save"};
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>& arguments)
 {
     Options options;
+    std::string playing;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == "--") {
+        const std::string& argument = arguments[i];
+        if (argument == "--") {
             for (++i; i < arguments.size(); ++i) {
                 if (auto error = ReadRecordingName(arguments[i], options)) {
                     return *error;
@@ -237,10 +283,12 @@ std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>&
             return *error;
         } else if (options.help) {
             return options;
+        } else if (IsAboutPlaying(argument)) {
+            playing = argument;
         }
     }
-    if (options.recording.empty()) {
-        return OptionsError{"no recording is given"};
+    if (auto error = CheckWhole(options, playing)) {
+        return *error;
     }
     const auto earlier = [](const auto& a, const auto& b) { return a.atMs < b.atMs; };
     std::stable_sort(options.screenshots.begin(), options.screenshots.end(), earlier);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lumora/records.h"
+#include "time_unit.h"
 
 #include <cstdint>
 #include <optional>
@@ -43,6 +44,9 @@ struct InkChanges {
 struct Options {
     bool help = false;
     std::string recording;
+    std::optional<TimeUnit> timeUnit;
+    std::string save; // empty: the recording is played
+    bool overwrite = false;
     std::string library;                    // empty: LumoraDLL.dll beside the program
     BackEnd backEnd = BackEnd::Composition; // the library's own default
     double speed = 1;

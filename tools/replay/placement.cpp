@@ -11,6 +11,9 @@ namespace {
 // The part of the shorter side that stays free on each edge.
 constexpr double MarginShare = 0.08;
 
+// Less than any unit of length resolves: metres, and parts of the page.
+constexpr double SmallestExtent = 1e-9;
+
 std::int32_t ToPixel(double position, std::int32_t size)
 {
     return static_cast<std::int32_t>(std::clamp(std::round(position), 1.0, std::max(1.0, size - 1.0)));
@@ -27,15 +30,15 @@ Placement::Placement(const Recording& recording, ScreenSize screenSize) : screen
     const auto byY = [](const RecordedSample& a, const RecordedSample& b) { return a.y < b.y; };
     const auto [left, right] = std::minmax_element(recording.samples.begin(), recording.samples.end(), byX);
     const auto [low, high] = std::minmax_element(recording.samples.begin(), recording.samples.end(), byY);
-    const double recordedWidth = static_cast<double>(right->x) - left->x;
-    const double recordedHeight = static_cast<double>(high->y) - low->y;
+    const double recordedWidth = right->x - left->x;
+    const double recordedHeight = high->y - low->y;
     centreX = left->x + recordedWidth / 2;
     centreY = low->y + recordedHeight / 2;
 
     // A recording without extent in one direction is scaled by the other; a single point stays a point.
     const double margin = MarginShare * std::min(screen.width, screen.height);
-    const double byWidth = (screen.width - 2 * margin) / std::max(recordedWidth, 1.0);
-    const double byHeight = (screen.height - 2 * margin) / std::max(recordedHeight, 1.0);
+    const double byWidth = (screen.width - 2 * margin) / std::max(recordedWidth, SmallestExtent);
+    const double byHeight = (screen.height - 2 * margin) / std::max(recordedHeight, SmallestExtent);
     scaleX = std::min(byWidth, byHeight);
     scaleY = recording.yUpwards ? -scaleX : scaleX;
 }

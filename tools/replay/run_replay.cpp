@@ -4,12 +4,13 @@
 #include "latency.h"
 #include "player.h"
 #include "read_recording.h"
+#include "save_recording.h"
 
 namespace lumora::replay {
 
 namespace {
 
-constexpr int ExitPlayed = 0;
+constexpr int ExitDone = 0;
 constexpr int ExitFailed = 1;
 constexpr int ExitWrongInput = 2;
 constexpr int ExitStopped = 130;
@@ -31,7 +32,18 @@ int Play(const Options& options, const Recording& recording, const MakeUnderlay&
         PrintLine(Channel::Output, "saved " + taken.file);
     }
     PrintLine(Channel::Output, Describe(Summarise(result.latenciesMs)));
-    return result.stopped ? ExitStopped : ExitPlayed;
+    return result.stopped ? ExitStopped : ExitDone;
+}
+
+int Save(const Options& options, const Recording& recording)
+{
+    const RecordingFormat format = FormatOf(options.save).value_or(RecordingFormat::Svc);
+    if (const auto reason = SaveRecording(recording, PathOf(options.save), format, options.overwrite)) {
+        PrintLine(Channel::Error, "lumora-replay: " + options.save + " cannot be saved: " + *reason);
+        return ExitFailed;
+    }
+    PrintLine(Channel::Output, "saved " + options.save);
+    return ExitDone;
 }
 
 } // namespace
@@ -46,12 +58,15 @@ int RunReplay(const std::vector<std::string>& arguments, const MakeUnderlay& mak
     const auto& options = std::get<Options>(parsed);
     if (options.help) {
         PrintLine(Channel::Output, HelpText());
-        return ExitPlayed;
+        return ExitDone;
     }
-    const RecordingResult read = ReadRecording(PathOf(options.recording));
+    const RecordingResult read = ReadRecording(PathOf(options.recording), options.timeUnit);
     if (const auto* error = std::get_if<RecordingError>(&read)) {
         PrintLine(Channel::Error, DescribeError(options.recording, *error));
         return ExitWrongInput;
+    }
+    if (!options.save.empty()) {
+        return Save(options, std::get<Recording>(read));
     }
     // Pixels mean pixels: without this a scaled desktop would be photographed smaller than it is.
     SetProcessDPIAware();

@@ -2,19 +2,28 @@
 #include "strokes.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace lumora::replay {
 
 namespace {
 
-TimedSample MakePenSample(const RecordedSample& sample, std::uint32_t firstTime, ScreenPoint point)
+// The library counts milliseconds in 32 bits, as the system's own tick does, and takes 0 for a reset.
+std::uint32_t LibraryTime(double milliseconds)
+{
+    const auto wrapped = static_cast<std::uint32_t>(static_cast<std::uint64_t>(milliseconds));
+    return std::max<std::uint32_t>(wrapped, 1);
+}
+
+TimedSample MakePenSample(const RecordedSample& sample, double firstTime, ScreenPoint point)
 {
     TimedSample timed;
     timed.recordedTime = sample.time - firstTime;
-    timed.data.time = std::max<std::uint32_t>(sample.time, 1);
+    timed.data.time = LibraryTime(sample.time);
     timed.data.x = point.x;
     timed.data.y = point.y;
-    timed.data.pressure = sample.touches ? std::max<std::int32_t>(sample.pressure, 1) : 0;
+    timed.data.pressure =
+        sample.touches ? static_cast<std::int32_t>(std::max(std::round(sample.pressure), 1.0)) : 0;
     return timed;
 }
 

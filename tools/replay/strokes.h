@@ -9,12 +9,9 @@
 namespace lumora::replay {
 
 struct TimedSample {
-    std::uint32_t recordedTime = 0; // milliseconds since the recording's first sample
+    double recordedTime = 0; // milliseconds since the recording's first sample
     LM_PenData data = {};
 };
-
-// A tablet reports a touching pen many times a second: after a gap longer than this a new stroke begins.
-inline constexpr std::uint32_t StrokeGapMs = 1000;
 
 // Touching samples have a pressure of at least 1, hovering ones of 0. A stroke that no hovering sample ends
 // gets one: at its last position and time.
