@@ -275,14 +275,38 @@ INSTANTIATE_TEST_SUITE_P(Numbers, BadValue,
                                          std::vector<std::string>{"--colour", "#12345"},
                                          std::vector<std::string>{"--colour", "12345g"}));
 
+TEST(SelftestOption, NeedsNoRecording)
+{
+    const auto parsed = ParseOptions({"--selftest", "report.txt", "--dll", "other.dll"});
+    ASSERT_TRUE(std::holds_alternative<Options>(parsed));
+    EXPECT_EQ(std::get<Options>(parsed).selftest, "report.txt");
+    EXPECT_EQ(std::get<Options>(parsed).library, "other.dll");
+}
+
+TEST(SelftestOption, StandsAlone)
+{
+    for (const auto& [arguments, reason] :
+         {std::pair<std::vector<std::string>, const char*>{{"--selftest", "a.txt", "b.svc"},
+                                                           "--selftest plays no recording, not \"b.svc\""},
+          {{"--selftest", "a.txt", "--speed", "2"}, "--speed cannot stand beside --selftest"},
+          {{"--save", "b.svc", "--selftest", "a.txt"}, "--save cannot stand beside --selftest"},
+          {{"--zebra", "--selftest", "a.txt"}, "--zebra cannot stand beside --selftest"},
+          {{"--selftest"}, "--selftest needs the name of a file"},
+          {{"--selftest", ""}, "--selftest needs the name of a file, not \"\""}}) {
+        const auto parsed = ParseOptions(arguments);
+        ASSERT_TRUE(std::holds_alternative<OptionsError>(parsed)) << reason;
+        EXPECT_EQ(std::get<OptionsError>(parsed).reason, reason);
+    }
+}
+
 TEST(Help, NamesEveryOptionAndStatus)
 {
     const std::string help = HelpText();
     for (const char* text :
-         {"--backend",     "--switch",       "--speed",     "--screenshot", "--colour",  "--brush",
-          "--min-brush",   "--max-pressure", "--life",      "--outline",    "--no-line", "--no-cursor",
-          "--no-pressure", "--offset",       "--zebra",     "--log-level",  "--dll",     "--help",
-          "--save",        "--overwrite",    "--time-unit", "Exit status"}) {
+         {"--backend",     "--switch",       "--speed",     "--screenshot", "--colour",   "--brush",
+          "--min-brush",   "--max-pressure", "--life",      "--outline",    "--no-line",  "--no-cursor",
+          "--no-pressure", "--offset",       "--zebra",     "--log-level",  "--dll",      "--help",
+          "--save",        "--overwrite",    "--time-unit", "--selftest",   "Exit status"}) {
         EXPECT_THAT(help, HasSubstr(text));
     }
 }

@@ -107,5 +107,29 @@ TEST_F(Play, NeedsNoEngineUnderGDI)
     EXPECT_GT(ReddishPixels(L"ink.png"), FewestInkPixels);
 }
 
+// The stand-in composes, so that all three back-ends have something to show.
+TEST_F(Play, SelftestWritesWhatItSawOfEveryBackEnd)
+{
+    const Outcome outcome = Run(L"--selftest report.txt", L"lumora-replay-standin.exe");
+    EXPECT_EQ(outcome.status, 0U) << outcome.error;
+    const std::string report = Content("report.txt");
+    EXPECT_THAT(report, testing::StartsWith("lumora self-test\n"));
+    EXPECT_THAT(
+        report,
+        HasSubstr("\ncomposition\n  overlay               made\n  ink                   all   (DIFFERS"));
+    EXPECT_THAT(report, HasSubstr("\nd2d\n  overlay               made\n  ink                   all\n"));
+    EXPECT_THAT(report, HasSubstr("\ngdi\n  overlay               made\n  ink                   all\n"));
+    EXPECT_THAT(report, Not(HasSubstr("still there")));
+    EXPECT_THAT(report, Not(HasSubstr("stop at the overlay")));
+    EXPECT_THAT(outcome.output, HasSubstr("2 findings differ from Wine"));
+}
+
+TEST_F(Play, SelftestWithoutAPlaceForItsReportIsOneLineWithStatus1)
+{
+    const Outcome outcome = Run(L"--selftest missing/report.txt");
+    EXPECT_EQ(outcome.status, 1U);
+    EXPECT_THAT(outcome.error, HasSubstr("the report cannot be written to missing"));
+}
+
 } // namespace
 } // namespace lumora::replay

@@ -9,6 +9,7 @@ std::string HelpText()
 
 Usage: lumora-replay RECORDING [OPTION...]
        lumora-replay RECORDING --save FILE [--overwrite]
+       lumora-replay --selftest FILE [--dll FILE]
 
 RECORDING is an SVC or an InkML file. The writing is scaled to the screen and played at its own pace. The program ends
 when the ink of the last sample has gone and the last screenshot is taken; Ctrl+C ends it earlier. At the end it prints
@@ -47,6 +48,10 @@ Playing:
                           given several times and may lie after the last sample. The files are written at the end.
   --log-level N           the library's log level: 0 nothing, 1 basic, 2 normal, 3 detailed, 255 all (default 0)
   --dll FILE              the library to load (default LumoraDLL.dll beside this program)
+  --selftest FILE         play nothing, but draw on every back-end in the middle of the screen for some twenty seconds,
+                          read the screen back, and write to FILE what was seen and how long it took, beside what is
+                          known from Wine: for people with a Windows machine, to send to us. Leave mouse and windows
+                          alone meanwhile.
 
 Ink:
   --colour RRGGBB         ink colour, hexadecimal (default 202020)
@@ -65,8 +70,9 @@ Ink:
   --                      what follows is the recording's name, even if it begins with '-'
 
 Exit status:
-  0     the recording was played and every screenshot saved, or the recording was saved
-  1     the library cannot be loaded or used, or a screenshot or the recording cannot be saved
+  0     the recording was played and every screenshot saved, or the recording was saved, or the self-test's report was
+        written, whatever it says
+  1     the library cannot be loaded or used, or a screenshot, the recording or the report cannot be saved
   2     the command line or the recording is wrong
   130   ended by Ctrl+C, or because the overlay window was closed
 )";

@@ -63,6 +63,8 @@ constexpr std::array FlagOptions = {
 
 constexpr std::string_view SaveOption = "--save";
 constexpr std::string_view OverwriteOption = "--overwrite";
+constexpr std::string_view SelftestOption = "--selftest";
+constexpr std::string_view LibraryOption = "--dll";
 
 constexpr std::string_view WholeNumber = "a whole number from 0 to 4294967295";
 
@@ -155,6 +157,12 @@ bool ReadLibrary(std::string_view text, Options& options)
     return !text.empty();
 }
 
+bool ReadSelftest(std::string_view text, Options& options)
+{
+    options.selftest = text;
+    return !text.empty();
+}
+
 bool ReadTimeUnit(std::string_view text, Options& options)
 {
     options.timeUnit = ParseTimeUnit(text);
@@ -180,7 +188,8 @@ const std::vector<ValueOption>& ValueOptions()
         InkNumber("--max-pressure", &InkChanges::maxPressure),
         InkNumber("--life", &InkChanges::inkLifeMs),
         {"--log-level", WholeNumber, ReadLogLevel},
-        {"--dll", "the name of a file", ReadLibrary},
+        {LibraryOption, "the name of a file", ReadLibrary},
+        {SelftestOption, "the name of a file", ReadSelftest},
         {"--time-unit", "s, ms or us", ReadTimeUnit},
         {SaveOption, "the name of a file that ends in .svc or .inkml", ReadSave},
     };
@@ -250,9 +259,30 @@ bool IsAboutPlaying(std::string_view argument)
            std::find(AboutFiles.begin(), AboutFiles.end(), argument) == AboutFiles.end();
 }
 
-// What no single argument can tell; `playing` is one of the options about playing, if there are any.
-std::optional<OptionsError> CheckWhole(const Options& options, const std::string& playing)
+bool StandsBesideSelftest(std::string_view argument)
 {
+    return argument == SelftestOption || argument == LibraryOption || !argument.starts_with('-');
+}
+
+std::optional<OptionsError> CheckSelftest(const Options& options, const std::string& other)
+{
+    if (!options.recording.empty()) {
+        return OptionsError{"--selftest plays no recording, not \"" + options.recording + "\""};
+    }
+    if (!other.empty()) {
+        return OptionsError{other + " cannot stand beside --selftest"};
+    }
+    return std::nullopt;
+}
+
+// What no single argument can tell; `playing` is one of the options about playing, and `other` one of those
+// that are not for a self-test, if there are any.
+std::optional<OptionsError> CheckWhole(const Options& options, const std::string& playing,
+                                       const std::string& other)
+{
+    if (!options.selftest.empty()) {
+        return CheckSelftest(options, other);
+    }
     if (options.recording.empty()) {
         return OptionsError{"no recording is given"};
     }
@@ -271,6 +301,7 @@ std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>&
 {
     Options options;
     std::string playing;
+    std::string other;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
         if (argument == "--") {
@@ -283,11 +314,12 @@ std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>&
             return *error;
         } else if (options.help) {
             return options;
-        } else if (IsAboutPlaying(argument)) {
-            playing = argument;
+        } else {
+            playing = IsAboutPlaying(argument) ? argument : playing;
+            other = StandsBesideSelftest(argument) ? other : argument;
         }
     }
-    if (auto error = CheckWhole(options, playing)) {
+    if (auto error = CheckWhole(options, playing, other)) {
         return *error;
     }
     const auto earlier = [](const auto& a, const auto& b) { return a.atMs < b.atMs; };

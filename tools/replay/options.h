@@ -47,6 +47,7 @@ struct Options {
     std::optional<TimeUnit> timeUnit;
     std::string save; // empty: the recording is played
     bool overwrite = false;
+    std::string selftest;                   // empty: no self-test
     std::string library;                    // empty: LumoraDLL.dll beside the program
     BackEnd backEnd = BackEnd::Composition; // the library's own default
     double speed = 1;

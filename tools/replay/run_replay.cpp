@@ -5,6 +5,7 @@
 #include "player.h"
 #include "read_recording.h"
 #include "save_recording.h"
+#include "selftest.h"
 
 namespace lumora::replay {
 
@@ -15,9 +16,14 @@ constexpr int ExitFailed = 1;
 constexpr int ExitWrongInput = 2;
 constexpr int ExitStopped = 130;
 
+std::filesystem::path LibraryOf(const Options& options)
+{
+    return options.library.empty() ? LibraryBesideProgram() : PathOf(options.library);
+}
+
 int Play(const Options& options, const Recording& recording, const MakeUnderlay& makeUnderlay)
 {
-    const InkLibrary library(options.library.empty() ? LibraryBesideProgram() : PathOf(options.library));
+    const InkLibrary library(LibraryOf(options));
     const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.Module()) : nullptr;
     const StopSignal stop;
     PlayResult result;
@@ -46,6 +52,18 @@ int Save(const Options& options, const Recording& recording)
     return ExitDone;
 }
 
+template <typename Work> int OnTheScreen(Work work)
+{
+    // Pixels mean pixels: without this a scaled desktop would be photographed smaller than it is.
+    SetProcessDPIAware();
+    try {
+        return work();
+    } catch (const std::exception& failure) {
+        PrintLine(Channel::Error, std::string("lumora-replay: ") + failure.what());
+        return ExitFailed;
+    }
+}
+
 } // namespace
 
 int RunReplay(const std::vector<std::string>& arguments, const MakeUnderlay& makeUnderlay)
@@ -60,6 +78,12 @@ int RunReplay(const std::vector<std::string>& arguments, const MakeUnderlay& mak
         PrintLine(Channel::Output, HelpText());
         return ExitDone;
     }
+    if (!options.selftest.empty()) {
+        return OnTheScreen([&] {
+            Selftest(LibraryOf(options), PathOf(options.selftest), makeUnderlay);
+            return ExitDone;
+        });
+    }
     const RecordingResult read = ReadRecording(PathOf(options.recording), options.timeUnit);
     if (const auto* error = std::get_if<RecordingError>(&read)) {
         PrintLine(Channel::Error, DescribeError(options.recording, *error));
@@ -68,14 +92,7 @@ int RunReplay(const std::vector<std::string>& arguments, const MakeUnderlay& mak
     if (!options.save.empty()) {
         return Save(options, std::get<Recording>(read));
     }
-    // Pixels mean pixels: without this a scaled desktop would be photographed smaller than it is.
-    SetProcessDPIAware();
-    try {
-        return Play(options, std::get<Recording>(read), makeUnderlay);
-    } catch (const std::exception& failure) {
-        PrintLine(Channel::Error, std::string("lumora-replay: ") + failure.what());
-        return ExitFailed;
-    }
+    return OnTheScreen([&] { return Play(options, std::get<Recording>(read), makeUnderlay); });
 }
 
 } // namespace lumora::replay

@@ -67,8 +67,9 @@ public:
 
     std::string TakeText()
     {
-        text += "\n" + std::to_string(differences) +
-                (differences == 1 ? " finding differs" : " findings differ") + " from Wine\n";
+        text += '\n';
+        text += std::to_string(differences);
+        text += differences == 1 ? " finding differs from Wine\n" : " findings differ from Wine\n";
         return std::move(text);
     }
 
