@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace lumora::replay {
 namespace {
 
@@ -72,8 +74,8 @@ TEST(TimeUnitGuess, CoarseClocksAreSeenThrough)
     std::vector<RecordedSample> wholeSeconds = Every(0, 400);
     std::vector<RecordedSample> sixteenths = wholeSeconds;
     for (std::size_t i = 0; i < wholeSeconds.size(); ++i) {
-        wholeSeconds[i].time = static_cast<double>(i / 133);
-        sixteenths[i].time = static_cast<double>(i / 3 * 16);
+        wholeSeconds[i].time = std::floor(static_cast<double>(i) / 133);
+        sixteenths[i].time = std::floor(static_cast<double>(i) / 3) * 16;
     }
     EXPECT_EQ(GuessTimeUnit(wholeSeconds), TimeUnit::Seconds);
     EXPECT_EQ(GuessTimeUnit(sixteenths), TimeUnit::Milliseconds);

@@ -63,28 +63,13 @@ InkChannel ReadChannel(const XmlEvent& element, bool intermittent)
     return channel;
 }
 
-void ReadChannels(XmlReader& xml, const std::string& space, bool intermittent,
-                  std::vector<InkChannel>& channels)
+void AddChannel(std::vector<InkChannel>& channels, InkChannel channel, std::size_t line)
 {
-    for (XmlEvent event = xml.Next(); event.kind != XmlEvent::Kind::End; event = xml.Next()) {
-        if (event.kind != XmlEvent::Kind::Start) {
-            continue;
-        }
-        if (event.space == space && event.name == "channel") {
-            const auto sameName = [&event](const InkChannel& other) {
-                return other.name == TextAttribute(event, "name");
-            };
-            if (std::any_of(channels.begin(), channels.end(), sameName)) {
-                throw RecordingFault(event.line, "the trace format has two channels " +
-                                                     Quoted(TextAttribute(event, "name")));
-            }
-            channels.push_back(ReadChannel(event, intermittent));
-        } else if (event.space == space && event.name == "intermittentChannels" && !intermittent) {
-            ReadChannels(xml, space, true, channels);
-            continue;
-        }
-        xml.SkipElement();
+    const auto sameName = [&channel](const InkChannel& other) { return other.name == channel.name; };
+    if (std::any_of(channels.begin(), channels.end(), sameName)) {
+        throw RecordingFault(line, "the trace format has two channels " + Quoted(channel.name));
     }
+    channels.push_back(std::move(channel));
 }
 
 } // namespace
@@ -138,7 +123,26 @@ InkFormat PlainInkFormat()
 InkFormat ReadInkFormat(XmlReader& xml, const std::string& space)
 {
     InkFormat format;
-    ReadChannels(xml, space, false, format.channels);
+    bool intermittent = false;
+    for (;;) {
+        const XmlEvent event = xml.Next();
+        if (event.kind == XmlEvent::Kind::End) {
+            if (!intermittent) {
+                break;
+            }
+            intermittent = false;
+        } else if (event.kind == XmlEvent::Kind::Start) {
+            const std::string name = event.space == space ? event.name : std::string();
+            if (name == "intermittentChannels" && !intermittent) {
+                intermittent = true;
+                continue;
+            }
+            if (name == "channel") {
+                AddChannel(format.channels, ReadChannel(event, intermittent), event.line);
+            }
+            xml.SkipElement();
+        }
+    }
     std::stable_partition(format.channels.begin(), format.channels.end(),
                           [](const InkChannel& channel) { return !channel.intermittent; });
     return format;

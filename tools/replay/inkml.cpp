@@ -7,6 +7,7 @@
 #include <cmath>
 #include <istream>
 #include <map>
+#include <vector>
 
 namespace lumora::replay {
 
@@ -55,7 +56,7 @@ public:
                                  "the outermost element is " + Quoted(root.name) + " instead of \"ink\"");
         }
         space = root.space;
-        ReadGroup_({}, false);
+        ReadGroups_();
         const std::size_t lastLine = xml.Next().line;
         Recording recording = samples.Finish();
         if (recording.samples.empty()) {
@@ -90,28 +91,43 @@ private:
         return &found->second;
     }
 
-    // The children of an element that may hold traces. In definitions there are only things to refer to.
-    void ReadGroup_(InkSource current, bool defining)
+    // An element that may hold traces.
+    struct Group {
+        InkSource current;
+        bool defining = false; // there are only things to refer to
+    };
+
+    void ReadGroups_()
     {
-        for (XmlEvent event = xml.Next(); event.kind != XmlEvent::Kind::End; event = xml.Next()) {
-            if (event.kind != XmlEvent::Kind::Start) {
-                continue;
+        std::vector<Group> open(1);
+        while (!open.empty()) {
+            const XmlEvent event = xml.Next();
+            if (event.kind == XmlEvent::Kind::End) {
+                open.pop_back();
+            } else if (event.kind == XmlEvent::Kind::Start) {
+                ReadChild_(event, event.space == space ? event.name : std::string(), open);
             }
-            const std::string name = event.space == space ? event.name : std::string();
-            if (name == "definitions") {
-                ReadGroup_(current, true);
-            } else if (name == "traceGroup") {
-                ReadGroup_(ContextOf_(event, current), defining);
-            } else if (name == "trace" && !defining) {
-                ReadTrace_(event, ContextOf_(event, current));
-            } else if (name == "context" || name == "inkSource" || name == "traceFormat") {
-                const InkSource said = ReadSource_(event, current);
-                // Outside of the definitions it holds for the traces that follow.
-                current = defining ? current : said;
-                chosen = chosen || !defining;
-            } else {
-                xml.SkipElement();
-            }
+        }
+    }
+
+    void ReadChild_(const XmlEvent& event, const std::string& name, std::vector<Group>& open)
+    {
+        Group& group = open.back();
+        if (name == "definitions") {
+            open.push_back({group.current, true});
+        } else if (name == "traceGroup") {
+            open.push_back({ContextOf_(event, group.current), group.defining});
+        } else if (name == "trace" && !group.defining) {
+            ReadTrace_(event, ContextOf_(event, group.current));
+        } else if (name == "context" || name == "inkSource" || name == "traceFormat") {
+            const InkSource said = name == "context"     ? ReadContext_(event, group.current)
+                                   : name == "inkSource" ? ReadInkSource_(event, group.current)
+                                                         : ReadFormat_(event, group.current);
+            // Outside of the definitions it holds for the traces that follow.
+            group.current = group.defining ? group.current : said;
+            chosen = chosen || !group.defining;
+        } else {
+            xml.SkipElement();
         }
     }
 
@@ -124,35 +140,58 @@ private:
         return !chosen && formatCount == 1 ? onlyFormat : current;
     }
 
-    // A context, an inkSource or a traceFormat, from what it inherits.
-    InkSource ReadSource_(const XmlEvent& element, const InkSource& inherited)
+    // These three begin with what they inherit.
+    InkSource ReadFormat_(const XmlEvent& element, InkSource source)
     {
-        if (element.name == "traceFormat") {
-            InkSource source = inherited;
-            source.format = ReadInkFormat(xml, space);
-            Keep_(formats, element, source);
-            onlyFormat = source;
-            ++formatCount;
-            return source;
-        }
-        const bool isContext = element.name == "context";
-        InkSource source = isContext ? ReadReferences_(element, inherited) : inherited;
+        source.format = ReadInkFormat(xml, space);
+        Keep_(formats, element, source);
+        onlyFormat = source;
+        ++formatCount;
+        return source;
+    }
+
+    InkSource ReadInkSource_(const XmlEvent& element, InkSource source)
+    {
         for (XmlEvent event = xml.Next(); event.kind != XmlEvent::Kind::End; event = xml.Next()) {
-            if (event.kind != XmlEvent::Kind::Start) {
+            if (IsStart_(event, "traceFormat")) {
+                source = ReadFormat_(event, source);
                 continue;
             }
-            const bool ours = event.space == space;
-            if (ours && (event.name == "traceFormat" || (event.name == "inkSource" && isContext))) {
-                source = ReadSource_(event, source);
-                continue;
-            }
-            if (ours && event.name == "sampleRate") {
+            if (IsStart_(event, "sampleRate")) {
                 source.stepMs = StepOf_(event).value_or(source.stepMs);
             }
+            SkipIfStart_(event);
+        }
+        Keep_(inkSources, element, source);
+        return source;
+    }
+
+    InkSource ReadContext_(const XmlEvent& element, const InkSource& inherited)
+    {
+        InkSource source = ReadReferences_(element, inherited);
+        for (XmlEvent event = xml.Next(); event.kind != XmlEvent::Kind::End; event = xml.Next()) {
+            if (IsStart_(event, "traceFormat")) {
+                source = ReadFormat_(event, source);
+            } else if (IsStart_(event, "inkSource")) {
+                source = ReadInkSource_(event, source);
+            } else {
+                SkipIfStart_(event);
+            }
+        }
+        Keep_(contexts, element, source);
+        return source;
+    }
+
+    bool IsStart_(const XmlEvent& event, std::string_view name) const
+    {
+        return event.kind == XmlEvent::Kind::Start && event.space == space && event.name == name;
+    }
+
+    void SkipIfStart_(const XmlEvent& event)
+    {
+        if (event.kind == XmlEvent::Kind::Start) {
             xml.SkipElement();
         }
-        Keep_(isContext ? contexts : inkSources, element, source);
-        return source;
     }
 
     InkSource ReadReferences_(const XmlEvent& context, const InkSource& inherited) const
@@ -175,7 +214,7 @@ private:
         return rate && *rate > 0 ? std::optional(MsPerSecond / *rate) : std::nullopt;
     }
 
-    void ReadTrace_(const XmlEvent& element, InkSource source)
+    void ReadTrace_(const XmlEvent& element, const InkSource& source)
     {
         InkTrace trace;
         trace.type = TypeOf(element);
@@ -189,9 +228,8 @@ private:
         for (XmlEvent event = xml.Next(); event.kind != XmlEvent::Kind::End; event = xml.Next()) {
             if (event.kind == XmlEvent::Kind::Text) {
                 text.Append(event.text, event.line);
-            } else {
-                xml.SkipElement();
             }
+            SkipIfStart_(event);
         }
         if (const auto reason = samples.BeginTrace(std::move(trace))) {
             throw RecordingFault(element.line, *reason);

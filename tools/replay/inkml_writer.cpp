@@ -12,16 +12,18 @@ namespace lumora::replay {
 namespace {
 
 constexpr double TenthsPerDegree = 10;
+constexpr std::string_view Device = R"(units="dev")";
 
 using Samples = std::vector<RecordedSample>;
+
+bool HasAngle(const RecordedSample& sample) { return sample.azimuth != 0 || sample.altitude != 0; }
 
 class InkmlWriter {
 public:
     InkmlWriter(const Recording& written, std::ostream& stream)
-        : recording(written), output(stream), samples(written.samples)
+        : recording(written), output(stream), samples(written.samples),
+          withAngles(std::any_of(samples.begin(), samples.end(), HasAngle))
     {
-        withAngles = std::any_of(samples.begin(), samples.end(),
-                                 [](const RecordedSample& s) { return s.azimuth != 0 || s.altitude != 0; });
     }
 
     void Write()
@@ -38,25 +40,28 @@ public:
 private:
     void WriteDefinitions_()
     {
-        output << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                  "<ink xmlns=\"http://www.w3.org/2003/InkML\">\n"
-                  "  <definitions>\n"
-                  "    <timestamp xml:id=\"origin\"/>\n"
-                  "    <inkSource xml:id=\"pen\">\n"
-                  "      <traceFormat>\n";
-        WriteChannel_("X", &RecordedSample::x, "units=\"dev\"");
+        output << R"(<?xml version="1.0" encoding="UTF-8"?>
+<ink xmlns="http://www.w3.org/2003/InkML">
+  <definitions>
+    <timestamp xml:id="origin"/>
+    <inkSource xml:id="pen">
+      <traceFormat>
+)";
+        WriteChannel_("X", &RecordedSample::x, Device);
         WriteChannel_("Y", &RecordedSample::y,
-                      recording.yUpwards ? "orientation=\"-ve\" units=\"dev\"" : "units=\"dev\"");
+                      (recording.yUpwards ? R"(orientation="-ve" )" : "") + std::string(Device));
         WritePressureChannel_();
-        WriteChannel_("T", &RecordedSample::time, "units=\"ms\" respectTo=\"#origin\"");
+        WriteChannel_("T", &RecordedSample::time, R"(units="ms" respectTo="#origin")");
         if (withAngles) {
-            output << "        <channel name=\"OA\" type=\"decimal\" units=\"deg\"/>\n"
-                      "        <channel name=\"OE\" type=\"decimal\" units=\"deg\"/>\n";
+            output << R"(        <channel name="OA" type="decimal" units="deg"/>
+        <channel name="OE" type="decimal" units="deg"/>
+)";
         }
-        output << "      </traceFormat>\n"
-                  "    </inkSource>\n"
-                  "    <context xml:id=\"recording\" inkSourceRef=\"#pen\"/>\n"
-                  "  </definitions>\n";
+        output << R"(      </traceFormat>
+    </inkSource>
+    <context xml:id="recording" inkSourceRef="#pen"/>
+  </definitions>
+)";
     }
 
     void WriteChannel_(std::string_view name, double RecordedSample::*value, std::string_view attributes)
@@ -64,7 +69,7 @@ private:
         const bool whole = std::all_of(samples.begin(), samples.end(), [value](const RecordedSample& sample) {
             return sample.*value == std::trunc(sample.*value);
         });
-        output << "        <channel name=\"" << name << "\" type=\"" << (whole ? "integer" : "decimal")
+        output << R"(        <channel name=")" << name << R"(" type=")" << (whole ? "integer" : "decimal")
                << "\" " << attributes << "/>\n";
     }
 
@@ -75,7 +80,7 @@ private:
             return sample.pressure <= FullPressure;
         });
         WriteChannel_("F", &RecordedSample::pressure,
-                      within ? "min=\"0\" max=\"32767\" units=\"dev\"" : "min=\"0\" units=\"dev\"");
+                      (within ? R"(min="0" max="32767" )" : R"(min="0" )") + std::string(Device));
     }
 
     // Samples of one kind; a stroke ends at a long pause too.
@@ -91,7 +96,7 @@ private:
 
     void WriteTrace_(Samples::const_iterator begin, Samples::const_iterator end)
     {
-        output << "  <trace contextRef=\"#recording\" type=\"" << (begin->touches ? "penDown" : "penUp")
+        output << R"(  <trace contextRef="#recording" type=")" << (begin->touches ? "penDown" : "penUp")
                << "\">\n";
         for (auto sample = begin; sample != end; ++sample) {
             output << "    " << NumberText(sample->x) << ' ' << NumberText(sample->y) << ' '
@@ -108,7 +113,7 @@ private:
     const Recording& recording;
     std::ostream& output;
     const Samples& samples;
-    bool withAngles = false;
+    bool withAngles;
 };
 
 } // namespace
