@@ -34,6 +34,15 @@ double NowMs()
     return static_cast<double>(ticks.QuadPart) * 1000 / static_cast<double>(frequency.QuadPart);
 }
 
+// Within every overlay: without a shell it is a small one in the corner.
+POINT MiddleOfTheTest()
+{
+    constexpr POINT WithoutShell = {125, 120};
+    return GetShellWindow() != nullptr
+               ? POINT{GetSystemMetrics(SM_CXSCREEN) / 2, GetSystemMetrics(SM_CYSCREEN) / 2}
+               : WithoutShell;
+}
+
 // The window below the overlay.
 class Backdrop {
 public:
@@ -133,12 +142,8 @@ void Stroke(Overlay& overlay, POINT middle, BackEndFindings& findings, std::vect
     }
 }
 
-void Try(Overlay& overlay, BackEndFindings& findings)
+void Try(Overlay& overlay, POINT middle, const Backdrop& backdrop, BackEndFindings& findings)
 {
-    RECT place = {};
-    GetWindowRect(overlay.Window(), &place);
-    const POINT middle = {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    const Backdrop backdrop(middle);
     overlay.ChangeParams([](Params& params) {
         params.inkDecayTime = InkLife;
         params.inkColor = Red;
@@ -167,11 +172,14 @@ BackEndFindings FindingsOf(const char* name, lumora::BackEnd backEnd, const Libr
 {
     BackEndFindings findings;
     findings.name = name;
+    const POINT middle = MiddleOfTheTest();
+    const Backdrop backdrop(
+        middle); // first: Wine shows what is made later above, even above a topmost window
     try {
         OverlayOptions options;
         options.backEnd = backEnd;
         Overlay overlay(options, library);
-        Try(overlay, findings);
+        Try(overlay, middle, backdrop, findings);
     } catch (const Error& error) {
         findings.error = error.what();
     }
