@@ -6,9 +6,7 @@
 #include <stddef.h>
 #include <stdio.h>
 
-#define TYPE(field)                                                                                          \
-    _Generic((field), uint8_t : "uint8", int32_t : "int32", uint32_t : "uint32", default : "of no known "    \
-                                                                                           "type")
+#define TYPE(field) _Generic((field), uint8_t : "uint8", int32_t : "int32", uint32_t : "uint32")
 
 /* The fields of a record of the header follow each other without a gap, so one that was forgotten here shows.
  */

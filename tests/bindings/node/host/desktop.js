@@ -48,7 +48,7 @@ function isRed(colour) {
 
 // Pumps until it is so; the limit is for a test that would never end.
 async function pumpUntil(overlay, isSo, what) {
-    const attempts = 6000;
+    const attempts = 1500;
     for (let attempt = 0; attempt < attempts; ++attempt) {
         overlay.pump();
         if (isSo()) {

@@ -13,9 +13,10 @@ const stroke = [
     { x: 400, y: 240, pressure: 0 },
 ];
 
-test('a stroke is on the screen while it lives, and gone afterwards', async () => {
+test('a stroke is on the screen while it lives, and gone afterwards', async (context) => {
     showDesktop();
     const overlay = new Overlay({ backEnd: 'gdi' });
+    context.after(() => overlay.destroy());
     overlay.setParams({
         inkColor: 0x0000ff, inkDecayTime: forever, brushSize: 12, usePressure: false, cursor: false,
     });
@@ -29,11 +30,11 @@ test('a stroke is on the screen while it lives, and gone afterwards', async () =
 
     overlay.setParams({ inkDecayTime: 100 });
     await pumpUntil(overlay, () => pixel(300, 240) === White, 'the desktop after the ink');
-    overlay.destroy();
 });
 
-test('an overlay pumps by itself when it is told to, and no longer once it is destroyed', async () => {
+test('an overlay pumps by itself when it is told to, and no longer once it is destroyed', async (context) => {
     const overlay = new Overlay({ backEnd: 'gdi' });
+    context.after(() => overlay.destroy());
     overlay.setParams({ inkColor: 0x0000ff, inkDecayTime: forever, brushSize: 12, cursor: false });
     overlay.inputSamples(stroke);
     overlay.startPumping(5);

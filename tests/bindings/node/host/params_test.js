@@ -4,6 +4,7 @@
 const assert = require('node:assert');
 const { test } = require('node:test');
 const { Overlay } = require('lumora');
+const { makeBrushData } = require('lumora/lib/brush_data');
 const { user32 } = require('./desktop');
 
 const distinct = {
@@ -51,6 +52,11 @@ test('brush data changes what its kind names', () => withOverlay((overlay) => {
     sent('InkDecayTime', [1500], { inkDecayTime: 1500 });
     sent('BrushParams', [0x665544, 7, 300], { inkColor: 0x665544, minBrushSize: 7, brushSize: 300 });
 }));
+
+test('brush data is made byte by byte', () => {
+    assert.strictEqual(makeBrushData('BrushSize', [1, 30]).toString('hex'),
+        '4200720075007300680053006900' + '7a0065000000' + '08000000' + '01000000' + '1e000000');
+});
 
 const sendMessage = user32.func('SendMessageW', 'intptr_t', ['void *', 'uint', 'uintptr_t', 'intptr_t']);
 const postMessage = user32.func('PostMessageW', 'int', ['void *', 'uint', 'uintptr_t', 'intptr_t']);
