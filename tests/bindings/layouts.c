@@ -8,29 +8,27 @@
 
 #define TYPE(field) _Generic((field), uint8_t : "uint8", int32_t : "int32", uint32_t : "uint32")
 
-/* The fields of a record of the header follow each other without a gap, so one that was forgotten here shows.
- */
+/* The fields of a record of the header follow each other without a gap, so one that was forgotten shows. */
+#define MEMBER(record, field) (((record*)0)->field)
 #define FIELD(record, field)                                                                                 \
-    PrintField(#record "." #field, offsetof(record, field), sizeof(example##record.field),                   \
-               TYPE(example##record.field))
+    PrintField(#record "." #field, offsetof(record, field), sizeof(MEMBER(record, field)),                   \
+               TYPE(MEMBER(record, field)))
 
-static LM_Params exampleLM_Params;
-static LM_PenData exampleLM_PenData;
-static size_t end = 0;
-static int gaps = 0;
+static size_t g_end = 0;
+static int g_gaps = 0;
 
 static void PrintField(const char* name, size_t offset, size_t size, const char* type)
 {
     printf("%s %zu %zu %s\n", name, offset, size, type);
-    gaps += offset != end;
-    end = offset + size;
+    g_gaps += offset != g_end;
+    g_end = offset + size;
 }
 
 static void PrintRecord(const char* name, size_t size)
 {
     printf("%s %zu\n", name, size);
-    gaps += size != end;
-    end = 0;
+    g_gaps += size != g_end;
+    g_end = 0;
 }
 
 int main(void)
@@ -61,5 +59,5 @@ int main(void)
     FIELD(LM_PenData, aux7);
     FIELD(LM_PenData, aux8);
     PrintRecord("LM_PenData", sizeof(LM_PenData));
-    return gaps == 0 ? 0 : 1;
+    return g_gaps == 0 ? 0 : 1;
 }

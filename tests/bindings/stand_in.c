@@ -20,23 +20,23 @@ typedef struct Message {
     int32_t y;
 } Message;
 
-static char callLog[LogSize];
-static char takenLog[LogSize];
-static LM_Params current;
-static uint64_t penDataSize = sizeof(LM_PenData);
-static uintptr_t window = 0;
-static uintptr_t lastWindow = 0x1000;
-static uint32_t waiting = NoMessage;
-static int quitWaits = 0;
-static int32_t exitCode = 0;
-static int creationFails = 0;
+static char g_callLog[LogSize];
+static char g_takenLog[LogSize];
+static LM_Params g_current;
+static uint64_t g_penDataSize = sizeof(LM_PenData);
+static uintptr_t g_window = 0;
+static uintptr_t g_lastWindow = 0x1000;
+static uint32_t g_waiting = NoMessage;
+static int g_quitWaits = 0;
+static int32_t g_exitCode = 0;
+static int g_creationFails = 0;
 
 static void Log(const char* format, ...)
 {
-    const size_t used = strlen(callLog);
+    const size_t used = strlen(g_callLog);
     va_list arguments;
     va_start(arguments, format);
-    vsnprintf(callLog + used, LogSize - used, format, arguments);
+    vsnprintf(g_callLog + used, LogSize - used, format, arguments);
     va_end(arguments);
 }
 
@@ -51,14 +51,14 @@ static void LogBytes(const char* name, const void* bytes, size_t count)
 
 static void Quit(int32_t code)
 {
-    quitWaits = 1;
-    exitCode = code;
+    g_quitWaits = 1;
+    g_exitCode = code;
 }
 
 static void EndWindow(void)
 {
-    if (window != 0) {
-        window = 0;
+    if (g_window != 0) {
+        g_window = 0;
         Quit(0);
     }
 }
@@ -73,24 +73,24 @@ void StandInSetPenDataSize(uint64_t size);
 
 const char* StandInTakeLog(void)
 {
-    memcpy(takenLog, callLog, LogSize);
-    callLog[0] = '\0';
-    return takenLog;
+    memcpy(g_takenLog, g_callLog, LogSize);
+    g_callLog[0] = '\0';
+    return g_takenLog;
 }
 
-int32_t StandInQuitWaits(void) { return quitWaits ? exitCode : -1; }
+int32_t StandInQuitWaits(void) { return g_quitWaits ? g_exitCode : -1; }
 void StandInQuit(int32_t code) { Quit(code); }
-void StandInPost(void) { waiting = PlainNumber; }
-void StandInFailCreation(int32_t fails) { creationFails = fails; }
-void StandInSetPenDataSize(uint64_t size) { penDataSize = size; }
+void StandInPost(void) { g_waiting = PlainNumber; }
+void StandInFailCreation(int32_t fails) { g_creationFails = fails; }
+void StandInSetPenDataSize(uint64_t size) { g_penDataSize = size; }
 
 /* The library. */
 LM_WindowHandle LM_Create(void)
 {
     Log("LM_Create\n");
     EndWindow();
-    window = creationFails ? 0 : ++lastWindow;
-    return (LM_WindowHandle)window;
+    g_window = g_creationFails ? 0 : ++g_lastWindow;
+    return (LM_WindowHandle)g_window;
 }
 
 void LM_Destroy(void)
@@ -102,16 +102,16 @@ void LM_Destroy(void)
 void LM_GetCopiedParams(LM_Params* params)
 {
     Log("LM_GetCopiedParams\n");
-    *params = current;
+    *params = g_current;
 }
 
 void LM_GetElmSize(uint64_t* paramsSize, uint64_t* size)
 {
     *paramsSize = sizeof(LM_Params);
-    *size = penDataSize;
+    *size = g_penDataSize;
 }
 
-LM_WindowHandle LM_GetWindowHandle(void) { return (LM_WindowHandle)window; }
+LM_WindowHandle LM_GetWindowHandle(void) { return (LM_WindowHandle)g_window; }
 
 void LM_InputPenDataArray(const LM_PenData* samples, uint64_t count)
 {
@@ -135,7 +135,7 @@ void LM_SetDebugLevel(uint32_t level) { Log("LM_SetDebugLevel %" PRIu32 "\n", le
 void LM_SetParams(const LM_Params* params)
 {
     LogBytes("LM_SetParams", params, sizeof(*params));
-    current = *params;
+    g_current = *params;
 }
 
 /* Windows. */
@@ -152,16 +152,16 @@ int PeekMessageW(Message* message, void* ofWindow, uint32_t first, uint32_t last
 {
     (void)ofWindow, (void)how;
     memset(message, 0, sizeof(*message));
-    if (waiting != NoMessage && first == 0 && last == 0) {
-        message->window = (void*)window;
-        message->number = waiting;
-        waiting = NoMessage;
+    if (g_waiting != NoMessage && first == 0 && last == 0) {
+        message->window = (void*)g_window;
+        message->number = g_waiting;
+        g_waiting = NoMessage;
         return 1;
     }
-    if (quitWaits) {
+    if (g_quitWaits) {
         message->number = QuitNumber;
-        message->wParam = (uint64_t)exitCode;
-        quitWaits = 0;
+        message->wParam = (uint64_t)g_exitCode;
+        g_quitWaits = 0;
         return 1;
     }
     return 0;
@@ -183,6 +183,6 @@ void* GetWindow(void* ofWindow, uint32_t which) { return ofWindow == NULL || whi
 int64_t SendMessageW(void* toWindow, uint32_t number, uint64_t wParam, int64_t lParam)
 {
     Log("SendMessageW to %s 0x%" PRIx32 " %" PRIu64 " %" PRId64 "\n",
-        toWindow == (void*)window ? "the overlay" : "another", number, wParam, lParam);
+        toWindow == (void*)g_window ? "the overlay" : "another", number, wParam, lParam);
     return 0;
 }
