@@ -21,6 +21,10 @@ checkPackages=(clang-format clang-tidy)
 fuzzPackages=(clang libclang-rt-dev)
 # shellcheck disable=SC2034
 benchPackages=(libbenchmark-dev)
+# shellcheck disable=SC2034
+bindingPackages=(python3 mono-mcs mono-runtime)
+# Node from elsewhere brings npm along and does not go with Debian's npm.
+command -v npm >/dev/null || bindingPackages+=(nodejs npm)
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }

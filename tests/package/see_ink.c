@@ -1,4 +1,4 @@
-/* Starts a host and watches one pixel of the screen: see_ink PROGRAM X Y. Ends well when red ink comes there, and the
+/* Starts a host by its command line and watches one pixel of the screen: see_ink COMMAND X Y. Ends well when red ink comes there, and the
  * host ends well. */
 #include <windows.h>
 
