@@ -18,22 +18,16 @@ constexpr std::chrono::milliseconds InkLife{800};
 constexpr lumora::Colour WetInk = {30, 110, 230};
 constexpr int BrushSize = 6; // pixels, on a screen that is not scaled
 
-// A program with windows has no console. What it has to say goes where its caller looks: to a redirected
-// stream, to the console that it was started from, or else into a box.
+// A program with windows has no console of its own. What it has to say goes to the stream that its caller has
+// given it, and into a box where there is none.
 void Tell(DWORD stream, const std::wstring& text)
 {
-    HANDLE output = GetStdHandle(stream);
-    DWORD written = 0;
-    if ((output == nullptr || output == INVALID_HANDLE_VALUE) && AttachConsole(ATTACH_PARENT_PROCESS)) {
-        output = CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE, nullptr,
-                             OPEN_EXISTING, 0, nullptr);
-    }
     const int length = static_cast<int>(text.size());
     std::string utf8(text.size() * 3, '\0'); // the most that it takes
     const int size =
         WideCharToMultiByte(CP_UTF8, 0, text.data(), length, utf8.data(), length * 3, nullptr, nullptr);
-    if (!WriteConsoleW(output, text.data(), static_cast<DWORD>(length), &written, nullptr) &&
-        !WriteFile(output, utf8.data(), static_cast<DWORD>(size), &written, nullptr)) {
+    DWORD written = 0;
+    if (!WriteFile(GetStdHandle(stream), utf8.data(), static_cast<DWORD>(size), &written, nullptr)) {
         MessageBoxW(nullptr, text.c_str(), L"lumora-pen-host", MB_OK);
     }
 }

@@ -2,6 +2,7 @@
 #include "pen_window.h"
 #include "stroke.h"
 
+#include <exception>
 #include <optional>
 
 #include <tpcshrd.h>
@@ -55,7 +56,8 @@ PenSample ToSample(const POINTER_PEN_INFO& pen)
     return sample;
 }
 
-// Each segment is as wide as its newer end, like Lumora's.
+// Each segment is as wide as its newer end, like Lumora's, and has round ends, like every geometric pen that
+// is not told otherwise.
 void DrawDry(HDC dc, const Stroke& stroke, std::size_t first)
 {
     const LOGBRUSH brush = {BS_SOLID, RGB(stroke.colour.red, stroke.colour.green, stroke.colour.blue), 0};
@@ -63,8 +65,7 @@ void DrawDry(HDC dc, const Stroke& stroke, std::size_t first)
         const InkPoint& from = stroke.points[i - 1];
         const InkPoint& to = stroke.points[i];
         const bool isDot = from.x == to.x && from.y == to.y; // a line needs some length to be drawn
-        HPEN pen = ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND | PS_JOIN_ROUND,
-                                static_cast<DWORD>(to.width), &brush, 0, nullptr);
+        HPEN pen = ExtCreatePen(PS_GEOMETRIC | PS_SOLID, static_cast<DWORD>(to.width), &brush, 0, nullptr);
         const HGDIOBJ previous = SelectObject(dc, pen);
         MoveToEx(dc, from.x, from.y, nullptr);
         LineTo(dc, to.x + (isDot ? 1 : 0), to.y);
@@ -96,7 +97,7 @@ public:
     PenWindow(const PenWindow&) = delete;
     PenWindow& operator=(const PenWindow&) = delete;
 
-    std::optional<lumora::Error> failure; // what closed the window, if it was no person
+    std::exception_ptr failure; // what closed the window, if it was no person
 
 private:
     // The system calls this, and no exception may pass through it.
@@ -114,8 +115,8 @@ private:
                  self->TakesOther_(message, wParam))) {
                 return 0;
             }
-        } catch (const std::exception& thrown) {
-            self->failure.emplace(thrown.what());
+        } catch (...) {
+            self->failure = std::current_exception();
             DestroyWindow(window);
             return 0;
         }
@@ -291,7 +292,7 @@ void RunPenWindow(lumora::Overlay& ink, std::vector<PenSample>& recorded)
         }
     }
     if (window.failure) {
-        throw *window.failure;
+        std::rethrow_exception(window.failure);
     }
 }
 

@@ -53,14 +53,14 @@ TEST(PenPressure, IsFullWhereThePenFeelsNone) { EXPECT_EQ(ScalePressure(0, false
 
 // As the system's POINT and RECT.
 struct Point {
-    long x;
-    long y;
+    std::int32_t x;
+    std::int32_t y;
 };
 struct Rectangle {
-    long left;
-    long top;
-    long right;
-    long bottom;
+    std::int32_t left;
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
 };
 
 constexpr Rectangle Surface = {0, 0, 20000, 10000};
