@@ -170,8 +170,8 @@ private:
 
     bool TakesOther_(UINT message, WPARAM wParam)
     {
-        if (message == WM_TIMER && writer) { // one may still wait when the stroke has ended
-            DryInk_(static_cast<std::uint32_t>(style.inkDecayTime.count() / 2));
+        if (message == WM_TIMER) { // a pen that rests says nothing, but its ink ages
+            DryInk_(HalfLife_());
         } else if (message == WM_PAINT) {
             Paint_();
         } else if (message == WM_KEYDOWN && wParam == 'C') {
@@ -240,18 +240,24 @@ private:
         }
     }
 
-    // Once a message, and before it is left: Lumora paints when the host gets to pump again.
+    // Once a message, all at once: Lumora paints when the host gets to pump again.
     void HandOver_()
     {
         ink.Input(batch);
         batch.clear();
+        DryInk_(HalfLife_()); // here too: while there is something to paint, timers wait
     }
+
+    std::uint32_t HalfLife_() const { return static_cast<std::uint32_t>(style.inkDecayTime.count() / 2); }
 
     // Wet ink lives for a moment only, so it is drawn as dry ink below itself before it goes: at the end of a
     // stroke, and of a long stroke before. Drawing it at once would only delay the wet ink, which is there to
     // be quick.
     void DryInk_(std::uint32_t age)
     {
+        if (strokes.empty()) {
+            return;
+        }
         Stroke& stroke = strokes.back();
         const std::size_t first = stroke.dryCount;
         Dry(stroke, GetTickCount(), age);
