@@ -170,8 +170,8 @@ private:
 
     bool TakesOther_(UINT message, WPARAM wParam)
     {
-        if (message == WM_TIMER) { // a pen that rests says nothing, but its ink ages
-            DryInk_(HalfLife_());
+        if (message == WM_TIMER) {
+            Rest_();
         } else if (message == WM_PAINT) {
             Paint_();
         } else if (message == WM_KEYDOWN && wParam == 'C') {
@@ -227,6 +227,16 @@ private:
         }
         Add_(sample);
         recorded.push_back(sample);
+    }
+
+    // A mouse that rests says nothing, but its ink ages; and what comes next is to begin at wet ink, since
+    // Lumora draws nothing from a point that has gone. Not recorded: nobody has reported it.
+    void Rest_()
+    {
+        if (writer) { // a timer's message may be late
+            Add_(recorded.back());
+            HandOver_();
+        }
     }
 
     void Add_(const PenSample& sample)

@@ -17,7 +17,6 @@
 namespace pen_host {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -207,6 +206,17 @@ TEST_F(PenRoad, InkOfAPenThatRestsDriesByTheTimer)
         SendMessageW(window, WM_TIMER, 1, 0);
         EXPECT_EQ(PixelAt(125, 100), DryInk);
     });
+}
+
+TEST_F(PenRoad, PenThatRestsKeepsTheEndOfItsStrokeWet)
+{
+    InTheWindow([this] {
+        Send(WM_POINTERDOWN, {{1000, 1000, 1024}});
+        Send(WM_POINTERUPDATE, {{1500, 1000, 1024}});
+        SendMessageW(window, WM_TIMER, 1, 0);
+    });
+    EXPECT_THAT(handedOver, ElementsAre(At(100, 100), At(100, 100), At(150, 100), At(150, 100)));
+    EXPECT_THAT(recorded, SizeIs(2));
 }
 
 TEST_F(PenRoad, TapLeavesADot)
