@@ -1,5 +1,5 @@
-/* Starts a host by its command line and watches one pixel of the screen: see_ink COMMAND X Y. Ends well when red ink comes there, and the
- * host ends well. */
+/* Starts a host by its command line and watches one pixel of the screen: see_ink COMMAND X Y. Ends well when
+ * red ink comes there, and the host ends well. */
 #include <windows.h>
 
 #include <stdio.h>
