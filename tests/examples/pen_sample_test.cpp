@@ -1,7 +1,7 @@
 // What the pen host makes of a pen's reports.
 #include "pen-host/pen_sample.h"
 
-#include "recording.h"
+#include "svc.h"
 
 #include <gmock/gmock.h>
 
@@ -179,7 +179,7 @@ TEST(PenRecording, IsReadByTheReplay)
     EXPECT_FALSE(recording->samples[0].touches);
     EXPECT_TRUE(recording->samples[1].touches);
     EXPECT_EQ(recording->samples[1].pressure, FullPressure);
-    EXPECT_EQ(recording->samples[2].time, 10U);
+    EXPECT_EQ(recording->samples[2].time, 10);
 }
 
 } // namespace

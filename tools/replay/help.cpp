@@ -3,9 +3,9 @@
 
 namespace lumora::replay {
 
-std::string HelpText()
-{
-    return R"(lumora-replay plays a pen recording as ink on the screen.
+namespace {
+
+constexpr char AboutRecordings[] = R"(lumora-replay plays a pen recording as ink on the screen.
 
 Usage: lumora-replay RECORDING [OPTION...]
        lumora-replay RECORDING --save FILE [--overwrite]
@@ -38,7 +38,9 @@ Recordings:
   --overwrite             with --save: replace FILE if it is there. Without this it is left as it is, and the status
                           is 1.
 
-Playing:
+)";
+
+constexpr char AboutPlaying[] = R"(Playing:
   --backend NAME          composition, d2d or gdi (default composition, which shows nothing without the system's
                           composition engine: Wine has none)
   --switch MS:NAME        change the back-end, MS milliseconds of real time after the play began; may be given several
@@ -53,7 +55,9 @@ Playing:
                           known from Wine: for people with a Windows machine, to send to us. Leave mouse and windows
                           alone meanwhile.
 
-Ink:
+)";
+
+constexpr char AboutInkAndStatus[] = R"(Ink:
   --colour RRGGBB         ink colour, hexadecimal (default 202020)
   --brush N               stroke width at full pressure, in pixels (default 10)
   --min-brush N           smallest stroke width, in pixels (default 1)
@@ -76,6 +80,9 @@ Exit status:
   2     the command line or the recording is wrong
   130   ended by Ctrl+C, or because the overlay window was closed
 )";
-}
+
+} // namespace
+
+std::string HelpText() { return std::string(AboutRecordings) + AboutPlaying + AboutInkAndStatus; }
 
 } // namespace lumora::replay
