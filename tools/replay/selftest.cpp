@@ -86,8 +86,8 @@ COLORREF ColourAt(POINT place)
 std::string TextOf(COLORREF colour)
 {
     std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), "%02X%02X%02X", GetRValue(colour), GetGValue(colour),
-                  GetBValue(colour));
+    static_cast<void>(std::snprintf(text.data(), text.size(), "%02X%02X%02X", GetRValue(colour),
+                                    GetGValue(colour), GetBValue(colour)));
     return text.data();
 }
 

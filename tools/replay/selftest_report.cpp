@@ -32,7 +32,7 @@ std::string Milliseconds(const std::optional<double>& time)
         return "-";
     }
     std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.1f ms", *time);
+    static_cast<void>(std::snprintf(text.data(), text.size(), "%.1f ms", *time));
     return text.data();
 }
 
