@@ -2,8 +2,10 @@
 #include "lumora/lumora.hpp"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <iomanip>
+#include <iostream>
 #include <limits>
 #include <string>
 #include <vector>
@@ -30,7 +32,8 @@ template <typename Call> double NanosecondsOfACall(Call call)
 }
 
 // The fastest round of each, the two taking turns, so that what else the machine does meets both alike.
-template <typename Bare, typename Layer> void Compare(const char* name, int rounds, Bare bare, Layer layer)
+template <typename Bare, typename Layer>
+void Compare(const std::string& name, int rounds, Bare bare, Layer layer)
 {
     double bareCost = (std::numeric_limits<double>::max)();
     double layerCost = bareCost;
@@ -38,7 +41,8 @@ template <typename Bare, typename Layer> void Compare(const char* name, int roun
         bareCost = (std::min)(bareCost, NanosecondsOfACall(bare));
         layerCost = (std::min)(layerCost, NanosecondsOfACall(layer));
     }
-    std::printf("%-24s %10.1f ns %10.1f ns %8.2f\n", name, layerCost, bareCost, layerCost / bareCost);
+    std::cout << std::fixed << "| " << name << " | " << std::setprecision(1) << layerCost << " | " << bareCost
+              << " | " << std::setprecision(2) << layerCost / bareCost << " |\n";
 }
 
 // Samples, the last of which drops them again, so that none of them adds up.
@@ -53,20 +57,30 @@ std::vector<LM_PenData> Batch(std::size_t count)
 
 int main(int count, char** arguments)
 {
-    const int rounds = count > 1 ? std::atoi(arguments[1]) : UsualRounds;
-    const lumora::Library library = lumora::Library::Load();
-    lumora::OverlayOptions options;
-    options.backEnd = lumora::BackEnd::GDI;
-    lumora::Overlay overlay(options, library);
-
-    std::printf("%-24s %13s %13s %8s\n", "call", "layer", "C", "ratio");
-    Compare(
-        "window", rounds, [&] { return library.getWindowHandle(); }, [&] { return overlay.Window(); });
-    for (const std::size_t size : {1U, 10U, 100U}) {
-        const std::vector<LM_PenData> samples = Batch(size);
-        const std::string name = "input of " + std::to_string(size);
-        Compare(
-            name.c_str(), rounds, [&] { library.inputPenDataArray(samples.data(), samples.size()); },
-            [&] { overlay.Input(samples); });
+    const int rounds = count > 1 ? static_cast<int>(std::strtol(arguments[1], nullptr, 10)) : UsualRounds;
+    if (count > 2 || rounds < 1) {
+        std::cerr << "Usage: lumora_host_calls [ROUNDS]\n";
+        return 2;
     }
+    try {
+        const lumora::Library library = lumora::Library::Load();
+        lumora::OverlayOptions options;
+        options.backEnd = lumora::BackEnd::GDI;
+        lumora::Overlay overlay(options, library);
+
+        std::cout << "| call | class, ns | C function, ns | ratio |\n|---|---|---|---|\n";
+        Compare(
+            "Window", rounds, [&] { return library.getWindowHandle(); }, [&] { return overlay.Window(); });
+        for (const std::size_t size : {1U, 10U, 100U}) {
+            const std::vector<LM_PenData> samples = Batch(size);
+            Compare(
+                "Input of " + std::to_string(size), rounds,
+                [&] { library.inputPenDataArray(samples.data(), samples.size()); },
+                [&] { overlay.Input(samples); });
+        }
+    } catch (const std::exception& failure) {
+        std::cerr << "host_calls: " << failure.what() << '\n';
+        return 1;
+    }
+    return 0;
 }
