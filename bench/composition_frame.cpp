@@ -1,6 +1,6 @@
 // What a frame of the DirectComposition back-end costs, through the delivered library on the stand-in for the
 // system's composition engine, by how many segments live: lumora_composition_frame [FRAMES]
-#include "ink_library.h"
+#include "library_file.h"
 
 #include "support/composition/composition_stand_in.h"
 
@@ -71,7 +71,7 @@ FrameCost SplitFrame(HWND window, CompositionStandIn& composition)
 }
 
 // A zigzag of that many segments, all of them alive for longer than the measurement takes.
-HWND CreateWithSegments(const lumora::replay::InkLibrary& library, int segments)
+HWND CreateWithSegments(const lumora::Library& library, int segments)
 {
     const HWND window = library.create();
     LM_Params params = {};
@@ -91,8 +91,7 @@ HWND CreateWithSegments(const lumora::replay::InkLibrary& library, int segments)
     return window;
 }
 
-void Measure(const lumora::replay::InkLibrary& library, CompositionStandIn& composition, int segments,
-             int frames)
+void Measure(const lumora::Library& library, CompositionStandIn& composition, int segments, int frames)
 {
     const HWND window = CreateWithSegments(library, segments);
     PaintOnce(window); // the first one moves the samples
@@ -122,8 +121,9 @@ int main(int count, char** arguments)
         return 2;
     }
     try {
-        const lumora::replay::InkLibrary library(lumora::replay::LibraryBesideProgram());
-        CompositionStandIn composition(library.Module());
+        const lumora::Library library =
+            lumora::replay::LoadLibraryFile(lumora::replay::LibraryBesideProgram());
+        CompositionStandIn composition(library.module);
         composition.Show(false);
         std::cout << "| segments | frame, ms | Direct2D, ms | present, ms | the rest, recorded, ms |\n"
                      "|---|---|---|---|---|\n";

@@ -67,6 +67,7 @@ struct Library {
     decltype(&LM_SetData_from_App) setDataFromApp = nullptr;
     decltype(&LM_SetDebugLevel) setDebugLevel = nullptr;
     decltype(&LM_SetParams) setParams = nullptr;
+    HMODULE module = nullptr; /* of a library that was loaded */
 
     /* For a program that is linked with the import library. */
     static Library Linked()
@@ -91,24 +92,25 @@ struct Library {
     static Library Load(const std::wstring& file = L"LumoraDLL.dll")
     {
         const bool isBareName = file.find_first_of(L"\\/") == std::wstring::npos;
-        const HMODULE module =
+        Library library;
+        library.module =
             LoadLibraryExW(file.c_str(), nullptr,
                            isBareName ? LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32
                                       : LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
-        if (module == nullptr) {
-            throw Error("Lumora: the library cannot be loaded, system error " +
-                        std::to_string(GetLastError()));
+        if (library.module == nullptr) {
+            const DWORD reason = GetLastError();
+            throw Error("Lumora: " + Utf8_(file) + " cannot be loaded, system error " +
+                        std::to_string(reason));
         }
-        Library library;
-        Find_(module, "LM_Create", library.create);
-        Find_(module, "LM_Destroy", library.destroy);
-        Find_(module, "LM_GetCopiedParams", library.getCopiedParams);
-        Find_(module, "LM_GetElmSize", library.getElmSize);
-        Find_(module, "LM_GetWindowHandle", library.getWindowHandle);
-        Find_(module, "LM_InputPenDataArray", library.inputPenDataArray);
-        Find_(module, "LM_SetData_from_App", library.setDataFromApp);
-        Find_(module, "LM_SetDebugLevel", library.setDebugLevel);
-        Find_(module, "LM_SetParams", library.setParams);
+        Find_(library.module, "LM_Create", library.create);
+        Find_(library.module, "LM_Destroy", library.destroy);
+        Find_(library.module, "LM_GetCopiedParams", library.getCopiedParams);
+        Find_(library.module, "LM_GetElmSize", library.getElmSize);
+        Find_(library.module, "LM_GetWindowHandle", library.getWindowHandle);
+        Find_(library.module, "LM_InputPenDataArray", library.inputPenDataArray);
+        Find_(library.module, "LM_SetData_from_App", library.setDataFromApp);
+        Find_(library.module, "LM_SetDebugLevel", library.setDebugLevel);
+        Find_(library.module, "LM_SetParams", library.setParams);
         return library;
     }
 
@@ -125,6 +127,16 @@ struct Library {
     }
 
 private:
+    static std::string Utf8_(const std::wstring& text)
+    {
+        constexpr std::size_t MostBytesOfAUnit = 3;
+        std::string utf8(MostBytesOfAUnit * text.size(), '\0');
+        const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                             utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr);
+        utf8.resize(static_cast<std::size_t>(size));
+        return utf8;
+    }
+
     template <typename Function> static void Find_(HMODULE module, const char* name, Function& function)
     {
         /* By way of void*: compilers warn about a direct cast between function types. */

@@ -1,5 +1,6 @@
 // Creation and end of the library's instance.
 #include "ink_session.h"
+#include "replay_error.h"
 
 #include <algorithm>
 
@@ -26,7 +27,7 @@ WPARAM CommandOf(BackEnd backEnd)
 
 } // namespace
 
-InkSession::InkSession(const InkLibrary& inkLibrary, const Options& options) : library(inkLibrary)
+InkSession::InkSession(const Library& inkLibrary, const Options& options) : library(inkLibrary)
 {
     // Before the window exists: the level decides whether the library shows its user interface.
     library.setDebugLevel(options.logLevel);

@@ -1,9 +1,10 @@
 // One overlay of the library, from its creation with the wished back-end and parameters to its end.
 #pragma once
 
-#include "ink_library.h"
 #include "options.h"
 #include "placement.h"
+
+#include "lumora/library.hpp"
 
 #include <span>
 
@@ -12,7 +13,7 @@ namespace lumora::replay {
 class InkSession {
 public:
     // Throws ReplayError when the library makes no window.
-    InkSession(const InkLibrary& inkLibrary, const Options& options);
+    InkSession(const Library& inkLibrary, const Options& options);
     ~InkSession();
     InkSession(const InkSession&) = delete;
     InkSession& operator=(const InkSession&) = delete;
@@ -39,7 +40,7 @@ private:
     void Create_();
     void Destroy_() const;
 
-    const InkLibrary& library;
+    const Library& library;
     HWND window = nullptr;
 };
 

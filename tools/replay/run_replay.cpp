@@ -2,6 +2,7 @@
 #include "run_replay.h"
 #include "console.h"
 #include "latency.h"
+#include "library_file.h"
 #include "player.h"
 #include "read_recording.h"
 #include "save_recording.h"
@@ -23,8 +24,8 @@ std::filesystem::path LibraryOf(const Options& options)
 
 int Play(const Options& options, const Recording& recording, const MakeUnderlay& makeUnderlay)
 {
-    const InkLibrary library(LibraryOf(options));
-    const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.Module()) : nullptr;
+    const Library library = LoadLibraryFile(LibraryOf(options));
+    const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.module) : nullptr;
     const StopSignal stop;
     PlayResult result;
     {

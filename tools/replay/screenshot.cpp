@@ -1,7 +1,7 @@
 // Copies the screen into a bitmap and encodes it with GDI+.
 #include "screenshot.h"
 #include "console.h"
-#include "ink_library.h"
+#include "replay_error.h"
 
 #include <algorithm>
 

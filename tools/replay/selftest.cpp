@@ -1,8 +1,9 @@
 // The self-test of lumora-replay.
 #include "selftest.h"
 #include "console.h"
-#include "ink_library.h"
 #include "latency.h"
+#include "library_file.h"
+#include "replay_error.h"
 #include "selftest_report.h"
 #include "system_facts.h"
 
@@ -195,9 +196,8 @@ void Selftest(const std::filesystem::path& libraryFile, const std::filesystem::p
     if (!report) {
         throw ReplayError("the report cannot be written to " + ToUtf8(reportFile.native()));
     }
-    const Library library = Library::Load(std::filesystem::absolute(libraryFile).native());
-    const std::shared_ptr<void> underlay =
-        makeUnderlay ? makeUnderlay(GetModuleHandleW(libraryFile.filename().c_str())) : nullptr;
+    const Library library = LoadLibraryFile(libraryFile);
+    const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.module) : nullptr;
     std::vector<BackEndFindings> findings;
     for (const auto& [name, backEnd] :
          {std::pair{"composition", lumora::BackEnd::DirectComposition},

@@ -15,10 +15,11 @@ protected:
     }
 };
 
-TEST_F(LayerErrors, FileThatIsNotThereIsNamedByTheSystemsNumber)
+TEST_F(LayerErrors, FileThatIsNotThereIsNamedWithTheSystemsNumber)
 {
-    EXPECT_EQ(ErrorOf([] { lumora::Library::Load(L"NoSuchLumora.dll"); }),
-              "Lumora: the library cannot be loaded, system error " + std::to_string(ERROR_MOD_NOT_FOUND));
+    EXPECT_EQ(ErrorOf([] { lumora::Library::Load(L"NoSuchL\u00fcmora.dll"); }),
+              "Lumora: NoSuchL\xC3\xBCmora.dll cannot be loaded, system error " +
+                  std::to_string(ERROR_MOD_NOT_FOUND));
 }
 
 TEST_F(LayerErrors, LibraryOfSomebodyElseLacksAFunction)
