@@ -2,7 +2,7 @@
 #include <lumora/lumora.h>
 #include <windows.h>
 
-#define FIND(name) (*(void**)& name = (void*)GetProcAddress(library, "LM_" #name)) != NULL
+#define FIND(name) (*(FARPROC*)& name = GetProcAddress(library, "LM_" #name)) != NULL
 
 int main(void)
 {
