@@ -192,6 +192,12 @@ TEST(InkOptions, OffsetTurnsTheOffsetOn) { EXPECT_EQ(ParamsWith({"--offset"}).us
 
 TEST(InkOptions, ZebraTurnsTheBandsOn) { EXPECT_EQ(ParamsWith({"--zebra"}).zebraMode, 1); }
 
+TEST(Options, PixelsAreNotScaledWhenWanted)
+{
+    EXPECT_FALSE(std::get<Options>(ParseOptions({"a.svc"})).pixels);
+    EXPECT_TRUE(std::get<Options>(ParseOptions({"a.svc", "--pixels"})).pixels);
+}
+
 TEST(OptionMistakes, NoRecording) { EXPECT_EQ(ErrorOf({}), "no recording is given"); }
 
 TEST(OptionMistakes, EmptyRecordingName) { EXPECT_THAT(ErrorOf({""}), HasSubstr("empty")); }
@@ -303,10 +309,10 @@ TEST(Help, NamesEveryOptionAndStatus)
 {
     const std::string help = HelpText();
     for (const char* text :
-         {"--backend",     "--switch",       "--speed",     "--screenshot", "--colour",   "--brush",
-          "--min-brush",   "--max-pressure", "--life",      "--outline",    "--no-line",  "--no-cursor",
-          "--no-pressure", "--offset",       "--zebra",     "--log-level",  "--dll",      "--help",
-          "--save",        "--overwrite",    "--time-unit", "--selftest",   "Exit status"}) {
+         {"--backend",     "--switch",       "--speed",     "--screenshot", "--colour",  "--brush",
+          "--min-brush",   "--max-pressure", "--life",      "--outline",    "--no-line", "--no-cursor",
+          "--no-pressure", "--offset",       "--zebra",     "--log-level",  "--dll",     "--help",
+          "--save",        "--overwrite",    "--time-unit", "--selftest",   "--pixels",  "Exit status"}) {
         EXPECT_THAT(help, HasSubstr(text));
     }
 }

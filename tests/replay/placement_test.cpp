@@ -33,6 +33,22 @@ TEST(Placement, AspectIsKept)
     EXPECT_EQ(placement.Place(At(0, 0)).y - placement.Place(At(0, 100)).y, 100);
 }
 
+TEST(Placement, PixelsStayWhereTheyAre)
+{
+    const Placement upwards = Placement::OfPixels(true, {501, 333});
+    EXPECT_EQ(upwards.Place(At(120, -45)).x, 120);
+    EXPECT_EQ(upwards.Place(At(120, -45)).y, 45);
+    const Placement downwards = Placement::OfPixels(false, {501, 333});
+    EXPECT_EQ(downwards.Place(At(120, 45)).x, 120);
+    EXPECT_EQ(downwards.Place(At(120, 45)).y, 45);
+}
+
+TEST(Placement, PixelsBeyondTheScreenComeToItsEdge)
+{
+    EXPECT_EQ(Placement::OfPixels(false, {500, 300}).Place(At(900, -10)).x, 499);
+    EXPECT_EQ(Placement::OfPixels(false, {500, 300}).Place(At(900, -10)).y, 1);
+}
+
 TEST(Placement, UpwardYIsFlipped)
 {
     const Placement placement(Box(100, 100, true), {500, 500});

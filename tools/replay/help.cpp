@@ -45,6 +45,7 @@ constexpr char AboutPlaying[] = R"(Playing:
                           composition engine: Wine has none)
   --switch MS:NAME        change the back-end, MS milliseconds of real time after the play began; may be given several
                           times. The next samples rebuild the overlay and are not drawn themselves.
+  --pixels                the recording's positions are the screen's pixels, as lumora-pen records them: not scaled
   --speed N               play N times as fast, 0.001 to 1000 (default 1)
   --screenshot MS:FILE    save the screen as a PNG file, MS milliseconds of real time after the play began; may be
                           given several times and may lie after the last sample. The files are written at the end.

@@ -238,6 +238,10 @@ std::optional<OptionsError> ReadArgument(const std::vector<std::string>& argumen
         options.overwrite = true;
         return std::nullopt;
     }
+    if (argument == "--pixels") {
+        options.pixels = true;
+        return std::nullopt;
+    }
     const auto isNamed = [&argument](const auto& option) { return option.name == argument; };
     const auto flag = std::find_if(FlagOptions.begin(), FlagOptions.end(), isNamed);
     if (flag != FlagOptions.end()) {

@@ -50,6 +50,7 @@ struct Options {
     std::string selftest;                   // empty: no self-test
     std::string library;                    // empty: LumoraDLL.dll beside the program
     BackEnd backEnd = BackEnd::Composition; // the library's own default
+    bool pixels = false;                    // the recording's positions are the screen's
     double speed = 1;
     std::uint32_t logLevel = 0;
     InkChanges ink;

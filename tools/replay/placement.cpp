@@ -43,6 +43,15 @@ Placement::Placement(const Recording& recording, ScreenSize screenSize) : screen
     scaleY = recording.yUpwards ? -scaleX : scaleX;
 }
 
+Placement Placement::OfPixels(bool yUpwards, ScreenSize screenSize)
+{
+    Placement placement({}, screenSize);
+    placement.centreX = screenSize.width / 2.0;
+    placement.centreY = (yUpwards ? -screenSize.height : screenSize.height) / 2.0;
+    placement.scaleY = yUpwards ? -1 : 1;
+    return placement;
+}
+
 ScreenPoint Placement::Place(const RecordedSample& sample) const
 {
     return {ToPixel(screen.width / 2.0 + (sample.x - centreX) * scaleX, screen.width),

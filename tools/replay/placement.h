@@ -21,6 +21,9 @@ class Placement {
 public:
     Placement(const Recording& recording, ScreenSize screenSize);
 
+    // For a recording whose positions are the screen's pixels.
+    static Placement OfPixels(bool yUpwards, ScreenSize screenSize);
+
     // Always on the screen and never at column or row 0, which the library takes for a reset.
     ScreenPoint Place(const RecordedSample& sample) const;
 

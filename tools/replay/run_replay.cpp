@@ -30,7 +30,9 @@ int Play(const Options& options, const Recording& recording, const MakeUnderlay&
     PlayResult result;
     {
         InkSession session(library, options);
-        const Placement placement(recording, session.DrawableSize());
+        const ScreenSize screen = session.DrawableSize();
+        const Placement placement =
+            options.pixels ? Placement::OfPixels(recording.yUpwards, screen) : Placement(recording, screen);
         const Timeline timeline(MakePenSamples(recording, placement), options.speed);
         result = Player(session, stop, timeline, options.screenshots, options.switches).Play();
     }

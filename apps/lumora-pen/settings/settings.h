@@ -56,6 +56,10 @@ struct Settings {
     bool trailWithPen = true;
     bool trailWithMouse = true;
     bool crossHair = false; // at a pen that hovers
+    bool outline = false;   // these as in lumora/params.hpp
+    bool pressure = true;
+    bool offset = false;
+    bool zebra = false;
     HoldKey hold{ControlModifier | ShiftModifier, 0};
     std::array<Hotkey, KeyCommandCount> keys{}; // by KeyCommand; the constructor takes the defaults
 
