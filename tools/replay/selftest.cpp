@@ -51,11 +51,11 @@ class Backdrop {
 public:
     explicit Backdrop(POINT middle)
     {
-        static const ATOM windowClass = RegisterClass_();
-        window = CreateWindowExW(WS_EX_TOOLWINDOW, MAKEINTATOM(windowClass), L"", WS_POPUP,
-                                 middle.x - StrokeLength, middle.y - Strokes * RowHeight / 2 - RowHeight,
-                                 2 * StrokeLength, (Strokes + 1) * RowHeight, nullptr, nullptr,
-                                 GetModuleHandleW(nullptr), nullptr);
+        static const ATOM Class = RegisterClass_();
+        window =
+            CreateWindowExW(WS_EX_TOOLWINDOW, MAKEINTATOM(Class), L"", WS_POPUP, middle.x - StrokeLength,
+                            middle.y - Strokes * RowHeight / 2 - RowHeight, 2 * StrokeLength,
+                            (Strokes + 1) * RowHeight, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
         ShowWindow(window, SW_SHOWNOACTIVATE);
         UpdateWindow(window);
     }
