@@ -86,7 +86,7 @@ struct Library {
     }
 
     /* Loads the library: a bare name from the program's own folder, a full path from where it says, and
-     * nothing from anywhere else. It stays loaded until the process ends: windows of its may outlive an
+     * nothing from anywhere else. It stays loaded until the process ends: windows of it may outlive an
      * overlay, and its window classes do. Throws Error when there is none or one of its functions is missing.
      */
     static Library Load(const std::wstring& file = L"LumoraDLL.dll")

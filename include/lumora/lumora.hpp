@@ -83,9 +83,7 @@ public:
         if (options.debugLevel) {
             library.setDebugLevel(*options.debugLevel);
         }
-        const detail::QuitMessages noneOfTheLibrary;
         Create_();
-        detail::g_process.hasOverlay = true;
         if (options.backEnd) {
             StartWith_(*options.backEnd);
         }
@@ -212,6 +210,7 @@ public:
 private:
     void Create_()
     {
+        const detail::QuitMessages noneOfTheLibrary;
         LM_WindowHandle window = nullptr;
         detail::Fence([this, &window] { window = library.create(); });
         if (window == nullptr) {
@@ -219,6 +218,7 @@ private:
             throw Error("Lumora: the overlay's window could not be made");
         }
         owns = true;
+        detail::g_process.hasOverlay = true;
     }
 
     /* A choice takes effect when an overlay is made, or by a rebuild, which leaves a window behind. */
@@ -227,11 +227,8 @@ private:
         const bool isOther = backEnd != UsedBackEnd();
         Choose_(backEnd);
         if (isOther) {
-            owns = false;
-            detail::g_process.hasOverlay = false;
-            library.destroy();
+            Destroy_();
             Create_();
-            detail::g_process.hasOverlay = true;
         }
     }
 

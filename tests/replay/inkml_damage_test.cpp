@@ -58,6 +58,9 @@ INSTANTIATE_TEST_SUITE_P(
                            "the attribute orientation of <channel> must be +ve or -ve, not \"up\""},
                     Damage{Ink(Format({"X max='wide'"})), 1,
                            "the attribute max of <channel> must be a number, not \"wide\""},
+                    Damage{Ink("<traceFormat><intermittentChannels><channel name='S' type='boolean' "
+                               "default='up'/></intermittentChannels></traceFormat>"),
+                           1, "the attribute default of <channel> must be T or F, not \"up\""},
                     Damage{Ink(Format({"F max='0'"})), 1,
                            "the attribute max of <channel> must be more than min, not \"0\""},
                     Damage{Ink(Format({"X", "Y", "T units='dev'"}) + Trace("1 2 3")), 1,

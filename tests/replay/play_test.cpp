@@ -29,7 +29,6 @@ protected:
 
     void SetUp() override
     {
-        Program::SetUp();
         Write("stroke.svc", Stroke(10)); // 1500 ms
     }
 

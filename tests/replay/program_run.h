@@ -1,11 +1,10 @@
 // Runs lumora-replay as a user does, in a folder of its own.
 #pragma once
 
+#include "replay/folder_test.h"
+
 #include <gmock/gmock.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include <windows.h>
@@ -18,21 +17,8 @@ struct Outcome {
     std::string error;
 };
 
-class Program : public testing::Test {
+class Program : public FolderTest {
 protected:
-    void SetUp() override
-    {
-        const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-        folder = std::filesystem::temp_directory_path() / (std::string("lumora-program-") + test->name());
-        std::filesystem::create_directories(folder);
-    }
-
-    void TearDown() override
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-    }
-
     // Runs a program that lies beside this test with arguments that are written as on a command line.
     Outcome Run(const std::wstring& arguments, const std::wstring& program = L"lumora-replay.exe")
     {
@@ -58,19 +44,10 @@ protected:
         }
         CloseHandle(output);
         CloseHandle(error);
-        outcome.output = ReadAll(folder / "output");
-        outcome.error = ReadAll(folder / "error");
+        outcome.output = Content("output");
+        outcome.error = Content("error");
         return outcome;
     }
-
-    void Write(const std::filesystem::path& name, const std::string& text) const
-    {
-        std::ofstream(folder / name, std::ios::binary) << text;
-    }
-
-    std::string Content(const std::filesystem::path& name) const { return ReadAll(folder / name); }
-
-    std::filesystem::path folder; // the program runs in it
 
 private:
     static std::filesystem::path ProgramFolder()
@@ -85,13 +62,6 @@ private:
         SECURITY_ATTRIBUTES inherited = {sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
         return CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0,
                            nullptr);
-    }
-
-    static std::string ReadAll(const std::filesystem::path& file)
-    {
-        std::ostringstream text;
-        text << std::ifstream(file, std::ios::binary).rdbuf();
-        return text.str();
     }
 };
 

@@ -121,6 +121,16 @@ TEST_F(Program, MissingLibraryIsOneLineWithStatus1)
     EXPECT_THAT(outcome.error, HasSubstr("none.dll cannot be loaded"));
 }
 
+TEST_F(Program, SelftestWithoutALibraryKeepsAnOldReport)
+{
+    Write("report.txt", "old");
+    const Outcome outcome = Run(L"--selftest report.txt --dll none.dll");
+    EXPECT_EQ(outcome.status, 1U);
+    ExpectOneLine(outcome.error);
+    EXPECT_THAT(outcome.error, HasSubstr("none.dll cannot be loaded"));
+    EXPECT_EQ(Content("report.txt"), "old");
+}
+
 TEST_F(Program, LibraryWithoutTheFunctionsIsOneLineWithStatus1)
 {
     Write("good.svc", OneSample);

@@ -1,31 +1,13 @@
 // Reading of recordings from files.
 #include "read_recording.h"
+#include "replay/folder_test.h"
 
 #include <gmock/gmock.h>
-
-#include <fstream>
 
 namespace lumora::replay {
 namespace {
 
-class ReadRecordingTest : public testing::Test {
-protected:
-    void TearDown() override
-    {
-        std::error_code ignored;
-        std::filesystem::remove(file, ignored);
-    }
-
-    void Write(const std::filesystem::path& name, const std::string& text)
-    {
-        const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-        file = std::filesystem::temp_directory_path() / (std::string("lumora-") + test->name());
-        file += name;
-        std::ofstream(file, std::ios::binary) << text;
-    }
-
-    std::filesystem::path file;
-};
+using ReadRecordingTest = FolderTest;
 
 RecordingError ErrorOf(const RecordingResult& result)
 {
@@ -35,76 +17,77 @@ RecordingError ErrorOf(const RecordingResult& result)
 
 TEST_F(ReadRecordingTest, FileIsReadAsSvc)
 {
-    Write(".svc", "1\n1 2 3 1 0 0 5\n");
-    const RecordingResult result = ReadRecording(file);
+    Write("a.svc", "1\n1 2 3 1 0 0 5\n");
+    const RecordingResult result = ReadRecording(folder / "a.svc");
     ASSERT_TRUE(std::holds_alternative<Recording>(result));
     EXPECT_EQ(std::get<Recording>(result).samples.size(), 1U);
 }
 
 TEST_F(ReadRecordingTest, ContentTellsInkmlWhateverTheName)
 {
-    Write(".svc", "\xEF\xBB\xBF\n <ink><trace>1 2, 3 4</trace></ink>");
-    const RecordingResult result = ReadRecording(file);
+    Write("a.svc", "\xEF\xBB\xBF\n <ink><trace>1 2, 3 4</trace></ink>");
+    const RecordingResult result = ReadRecording(folder / "a.svc");
     ASSERT_TRUE(std::holds_alternative<Recording>(result)) << ErrorOf(result).reason;
     EXPECT_EQ(std::get<Recording>(result).samples.size(), 2U);
 }
 
 TEST_F(ReadRecordingTest, ContentTellsSvcWhateverTheName)
 {
-    Write(".inkml", "1\n1 2 3 1 0 0 5\n");
-    EXPECT_TRUE(std::holds_alternative<Recording>(ReadRecording(file)));
+    Write("a.inkml", "1\n1 2 3 1 0 0 5\n");
+    EXPECT_TRUE(std::holds_alternative<Recording>(ReadRecording(folder / "a.inkml")));
 }
 
 TEST_F(ReadRecordingTest, EmptyFileIsReadAsSvc)
 {
-    Write(".inkml", "");
-    EXPECT_EQ(ErrorOf(ReadRecording(file)).reason, "the file is empty");
+    Write("a.inkml", "");
+    EXPECT_EQ(ErrorOf(ReadRecording(folder / "a.inkml")).reason, "the file is empty");
 }
 
 TEST_F(ReadRecordingTest, Utf16IsNamedSo)
 {
-    Write(".inkml", std::string("\xFF\xFE<\0i\0", 6));
-    EXPECT_EQ(ErrorOf(ReadRecording(file)).line, 1U);
-    EXPECT_EQ(ErrorOf(ReadRecording(file)).reason, "the file is UTF-16 text; only UTF-8 is read");
+    Write("a.inkml", std::string("\xFF\xFE<\0i\0", 6));
+    const RecordingError error = ErrorOf(ReadRecording(folder / "a.inkml"));
+    EXPECT_EQ(error.line, 1U);
+    EXPECT_EQ(error.reason, "the file is UTF-16 text; only UTF-8 is read");
 }
 
 TEST_F(ReadRecordingTest, ToldUnitReachesBothReaders)
 {
-    Write(".svc", "2\n1 2 3 1 0 0 5\n1 2 4 1 0 0 5\n");
-    const RecordingResult svc = ReadRecording(file, TimeUnit::Seconds);
+    Write("a.svc", "2\n1 2 3 1 0 0 5\n1 2 4 1 0 0 5\n");
+    const RecordingResult svc = ReadRecording(folder / "a.svc", TimeUnit::Seconds);
     ASSERT_TRUE(std::holds_alternative<Recording>(svc)) << ErrorOf(svc).reason;
     EXPECT_EQ(std::get<Recording>(svc).samples.back().time, 4000);
 
-    Write(".svc", "<ink><traceFormat><channel name='X'/><channel name='Y'/><channel name='T' units='ms'/>"
-                  "</traceFormat><trace>1 2 3, 1 2 4</trace></ink>");
-    const RecordingResult inkml = ReadRecording(file, TimeUnit::Seconds);
+    Write("a.svc", "<ink><traceFormat><channel name='X'/><channel name='Y'/><channel name='T' units='ms'/>"
+                   "</traceFormat><trace>1 2 3, 1 2 4</trace></ink>");
+    const RecordingResult inkml = ReadRecording(folder / "a.svc", TimeUnit::Seconds);
     ASSERT_TRUE(std::holds_alternative<Recording>(inkml)) << ErrorOf(inkml).reason;
     EXPECT_EQ(std::get<Recording>(inkml).samples.back().time, 4000);
 }
 
 TEST_F(ReadRecordingTest, NameBeyondAsciiIsFound)
 {
-    Write(std::filesystem::path(u8"-\u00fcbung-\u03b1.svc"), "1\n1 2 3 1 0 0 5\n");
-    EXPECT_TRUE(std::holds_alternative<Recording>(ReadRecording(file)));
+    const std::filesystem::path name(u8"\u00fcbung-\u03b1.svc");
+    Write(name, "1\n1 2 3 1 0 0 5\n");
+    EXPECT_TRUE(std::holds_alternative<Recording>(ReadRecording(folder / name)));
 }
 
 TEST_F(ReadRecordingTest, ReaderErrorsKeepTheirLine)
 {
-    Write(".svc", "1\n1 2 3 7 0 0 5\n");
-    EXPECT_EQ(ErrorOf(ReadRecording(file)).line, 2U);
+    Write("a.svc", "1\n1 2 3 7 0 0 5\n");
+    EXPECT_EQ(ErrorOf(ReadRecording(folder / "a.svc")).line, 2U);
 }
 
 TEST_F(ReadRecordingTest, MissingFileIsNamedSo)
 {
-    const RecordingError error = ErrorOf(ReadRecording("no-such-recording.svc"));
+    const RecordingError error = ErrorOf(ReadRecording(folder / "none.svc"));
     EXPECT_EQ(error.line, 0U);
     EXPECT_EQ(error.reason, "there is no such file");
 }
 
 TEST_F(ReadRecordingTest, FolderIsNamedSo)
 {
-    EXPECT_EQ(ErrorOf(ReadRecording(std::filesystem::temp_directory_path())).reason,
-              "is a folder, not a recording");
+    EXPECT_EQ(ErrorOf(ReadRecording(folder)).reason, "is a folder, not a recording");
 }
 
 TEST(ShippedRecording, IsWellFormedAndPlaysForFourToSixSeconds)

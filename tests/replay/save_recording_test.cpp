@@ -1,12 +1,11 @@
 // Saving: the files that are written, what is read from them again, and what stands in the way.
 #include "inkml_text.h"
 #include "read_recording.h"
+#include "replay/folder_test.h"
 #include "save_recording.h"
 #include "svc.h"
 
 #include <gmock/gmock.h>
-
-#include <fstream>
 
 namespace lumora::replay {
 namespace {
@@ -130,61 +129,39 @@ TEST(SavedFormat, IsToldByTheEndOfTheName)
     EXPECT_EQ(FormatOf(""), std::nullopt);
 }
 
-class SaveRecordingTest : public testing::Test {
+class SaveRecordingTest : public FolderTest {
 protected:
-    void SetUp() override
-    {
-        const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-        folder = std::filesystem::temp_directory_path() / (std::string("lumora-save-") + test->name());
-        std::filesystem::create_directories(folder);
-    }
-
-    void TearDown() override
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-    }
-
     std::optional<std::string> Save(bool overwrite) const
     {
         const Recording recording = {{{1, 2, 3, 500, true}}, true};
         return SaveRecording(recording, folder / "a.svc", RecordingFormat::Svc, overwrite);
     }
 
-    std::string Content() const
-    {
-        std::ostringstream text;
-        text << std::ifstream(folder / "a.svc", std::ios::binary).rdbuf();
-        return text.str();
-    }
-
     std::size_t FileCount() const
     {
         return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
     }
-
-    std::filesystem::path folder;
 };
 
 TEST_F(SaveRecordingTest, WritesTheFileAndNothingElse)
 {
     EXPECT_EQ(Save(false), std::nullopt);
-    EXPECT_EQ(Content(), "1\n1 2 3 1 0 0 500\n");
+    EXPECT_EQ(Content("a.svc"), "1\n1 2 3 1 0 0 500\n");
     EXPECT_EQ(FileCount(), 1U);
 }
 
 TEST_F(SaveRecordingTest, FileThatIsThereIsKept)
 {
-    std::ofstream(folder / "a.svc") << "mine";
+    Write("a.svc", "mine");
     EXPECT_EQ(Save(false), "there is such a file already (--overwrite replaces it)");
-    EXPECT_EQ(Content(), "mine");
+    EXPECT_EQ(Content("a.svc"), "mine");
 }
 
 TEST_F(SaveRecordingTest, OverwriteReplacesTheFile)
 {
-    std::ofstream(folder / "a.svc") << "mine";
+    Write("a.svc", "mine");
     EXPECT_EQ(Save(true), std::nullopt);
-    EXPECT_EQ(Content(), "1\n1 2 3 1 0 0 500\n");
+    EXPECT_EQ(Content("a.svc"), "1\n1 2 3 1 0 0 500\n");
     EXPECT_EQ(FileCount(), 1U);
 }
 
@@ -196,7 +173,7 @@ TEST_F(SaveRecordingTest, FolderIsNeverReplaced)
 
 TEST_F(SaveRecordingTest, FileOfAnotherThatIsNeededOnTheWayIsKept)
 {
-    std::ofstream(folder / "a.svc.part") << "mine";
+    Write("a.svc.part", "mine");
     EXPECT_EQ(Save(true), "a file of its name with \".part\" at the end is in the way");
     EXPECT_EQ(FileCount(), 1U);
 }

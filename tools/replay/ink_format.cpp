@@ -31,6 +31,9 @@ std::optional<double> ReadInitial(const XmlEvent& element, bool boolean)
     if (text == "T" || text == "true" || text == "1") {
         return 1;
     }
+    if (!text.empty() && text != "F" && text != "false" && text != "0") {
+        FailAttribute(element, "default", "T or F");
+    }
     return 0;
 }
 

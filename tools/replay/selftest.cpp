@@ -3,6 +3,7 @@
 #include "console.h"
 #include "latency.h"
 #include "library_file.h"
+#include "recording.h"
 #include "replay_error.h"
 #include "selftest_report.h"
 #include "system_facts.h"
@@ -23,8 +24,9 @@ constexpr int Strokes = 8;
 constexpr int StrokeLength = 120;
 constexpr int RowHeight = 20;
 constexpr std::chrono::milliseconds InkLife{1500};
-constexpr double LongestWaitMs = 500; // for one stroke, most of it a first frame's
-constexpr double WipeMs = 500;        // the overlay notices the end of its ink by a timer
+constexpr auto FullTouch = static_cast<std::int32_t>(FullPressure);
+constexpr double LongestWaitMs = 1000; // for one stroke, most of it a first frame's
+constexpr double WipeMs = 500;         // the overlay notices the end of its ink by a timer
 
 double NowMs()
 {
@@ -49,17 +51,11 @@ class Backdrop {
 public:
     explicit Backdrop(POINT middle)
     {
-        WNDCLASSW windowClass = {};
-        windowClass.lpfnWndProc = DefWindowProcW;
-        windowClass.hInstance = GetModuleHandleW(nullptr);
-        windowClass.lpszClassName = L"Lumora self-test";
-        windowClass.hbrBackground =
-            CreateSolidBrush(Below); // the class's own, for as long as the process lives
-        RegisterClassW(&windowClass);
-        window = CreateWindowExW(WS_EX_TOOLWINDOW, windowClass.lpszClassName, L"", WS_POPUP,
-                                 middle.x - StrokeLength, middle.y - Strokes * RowHeight / 2 - RowHeight,
-                                 2 * StrokeLength, (Strokes + 1) * RowHeight, nullptr, nullptr,
-                                 windowClass.hInstance, nullptr);
+        static const ATOM Class = RegisterClass_();
+        window =
+            CreateWindowExW(WS_EX_TOOLWINDOW, MAKEINTATOM(Class), L"", WS_POPUP, middle.x - StrokeLength,
+                            middle.y - Strokes * RowHeight / 2 - RowHeight, 2 * StrokeLength,
+                            (Strokes + 1) * RowHeight, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
         ShowWindow(window, SW_SHOWNOACTIVATE);
         UpdateWindow(window);
     }
@@ -70,6 +66,17 @@ public:
     HWND Window() const { return window; }
 
 private:
+    // For as long as the process lives, and its brush with it.
+    static ATOM RegisterClass_()
+    {
+        WNDCLASSW windowClass = {};
+        windowClass.lpfnWndProc = DefWindowProcW;
+        windowClass.hInstance = GetModuleHandleW(nullptr);
+        windowClass.lpszClassName = L"Lumora self-test";
+        windowClass.hbrBackground = CreateSolidBrush(Below);
+        return RegisterClassW(&windowClass);
+    }
+
     HWND window;
 };
 
@@ -123,8 +130,8 @@ void Stroke(Overlay& overlay, POINT middle, BackEndFindings& findings, std::vect
 {
     const LONG half = StrokeLength / 2;
     const double begin = NowMs();
-    overlay.Input({overlay.SampleAt({middle.x - half, middle.y}, 32767),
-                   overlay.SampleAt({middle.x + half, middle.y}, 32767),
+    overlay.Input({overlay.SampleAt({middle.x - half, middle.y}, FullTouch),
+                   overlay.SampleAt({middle.x + half, middle.y}, FullTouch),
                    overlay.SampleAt({middle.x + half, middle.y}, 0)});
     ++findings.strokes;
     bool isPainted = false;
@@ -174,8 +181,8 @@ BackEndFindings FindingsOf(const char* name, lumora::BackEnd backEnd, const Libr
     BackEndFindings findings;
     findings.name = name;
     const POINT middle = MiddleOfTheTest();
-    const Backdrop backdrop(
-        middle); // first: Wine shows what is made later above, even above a topmost window
+    // First: Wine shows what is made later above, even above a topmost window.
+    const Backdrop backdrop(middle);
     try {
         OverlayOptions options;
         options.backEnd = backEnd;
@@ -192,11 +199,11 @@ BackEndFindings FindingsOf(const char* name, lumora::BackEnd backEnd, const Libr
 void Selftest(const std::filesystem::path& libraryFile, const std::filesystem::path& reportFile,
               const MakeUnderlay& makeUnderlay)
 {
+    const Library library = LoadLibraryFile(libraryFile); // first: without one an old report stays
     std::ofstream report(reportFile, std::ios::binary);
     if (!report) {
         throw ReplayError("the report cannot be written to " + ToUtf8(reportFile.native()));
     }
-    const Library library = LoadLibraryFile(libraryFile);
     const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.module) : nullptr;
     std::vector<BackEndFindings> findings;
     for (const auto& [name, backEnd] :

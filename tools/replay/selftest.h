@@ -8,7 +8,7 @@
 
 namespace lumora::replay {
 
-// Takes about ten seconds, in which a small window of its own lies in the middle of the screen. Throws
+// Takes up to twenty seconds, in which a small window of its own lies in the middle of the screen. Throws
 // lumora::Error or ReplayError when there is no library or the file cannot be written.
 void Selftest(const std::filesystem::path& library, const std::filesystem::path& report,
               const MakeUnderlay& makeUnderlay);

@@ -54,6 +54,18 @@ TEST_F(LayerErrors, OverlayWithoutAWindowLeavesNoInstance)
     EXPECT_EQ(untouched.brushSize, 0U);
 }
 
+TEST_F(LayerErrors, OverlayWithoutAWindowOnTheWantedBackEndLeavesNoInstanceAndNoRequestToQuit)
+{
+    Hook<"CreateWindowExW", decltype(CreateWindowExW)> creation(library.Module());
+    creation.Fail(nullptr, 2);
+    EXPECT_EQ(ErrorOf([this] { lumora::Overlay(OnGDI(), functions); }),
+              "Lumora: the overlay's window could not be made");
+    EXPECT_EQ(library.GetWindowHandle(), nullptr);
+    EXPECT_EQ(TakeQuitMessage(), std::nullopt);
+    creation.PassOn();
+    EXPECT_EQ(ErrorOfACreation(), "");
+}
+
 TEST_F(LayerErrors, AfterAFailureTheNextCreationSucceeds)
 {
     {

@@ -122,5 +122,57 @@ TEST_F(OverlayClass, LibraryStaysLoadedWhenAllIsOver)
     LoadLibraryW(LibraryPath()); // the fixture frees what it has loaded
 }
 
+std::vector<std::string> g_made; // and ended, in the order of the calls
+
+// Without an overlay at first. A process begins with DirectComposition, so one on GDI is made twice.
+class OverlayStart : public LayerTest {
+protected:
+    OverlayStart()
+    {
+        functions.create = [] {
+            g_made.emplace_back("create");
+            return lumora::Library::Load().create();
+        };
+        functions.destroy = [] {
+            g_made.emplace_back("destroy");
+            lumora::Library::Load().destroy();
+        };
+    }
+
+    void SetUp() override {}
+};
+
+TEST_F(OverlayStart, OnAnotherBackEndIsAnEndAndASecondCreation)
+{
+    overlay.emplace(OnGDI(), functions);
+    EXPECT_THAT(g_made, testing::ElementsAre("create", "destroy", "create"));
+}
+
+TEST_F(OverlayStart, OnTheBackEndInUseIsOneCreation)
+{
+    overlay.emplace(OnGDI(), functions);
+    overlay.reset();
+    g_made.clear();
+    overlay.emplace(OnGDI(), functions);
+    overlay.reset();
+    EXPECT_THAT(g_made, testing::ElementsAre("create", "destroy"));
+}
+
+TEST_F(OverlayStart, LeavesTheHostsOwnRequestToQuit)
+{
+    constexpr int ExitCode = 7;
+    PostQuitMessage(ExitCode);
+    overlay.emplace(OnGDI(), functions);
+    EXPECT_EQ(TakeQuitMessage(), ExitCode);
+    EXPECT_EQ(TakeQuitMessage(), std::nullopt);
+}
+
+TEST_F(OverlayStart, IsTheOnlyOneOnAnotherBackEndToo)
+{
+    overlay.emplace(OnGDI(), functions);
+    EXPECT_EQ(ErrorOf([this] { lumora::Overlay(OnGDI(), functions); }),
+              "Lumora: there is an overlay already");
+}
+
 } // namespace
 } // namespace zq::LM::test
