@@ -8,6 +8,7 @@ logs=$root/build/logs
 
 # shellcheck disable=SC2034 # the lists are for the scripts that source this
 buildPackages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest
+    nlohmann-json3-dev libcli11-dev
     wine wine64 xvfb util-linux fonts-liberation
     # Wine loads these when they are there, for its windows and its pointer.
     libgl1 libgl1-mesa-dri libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1)

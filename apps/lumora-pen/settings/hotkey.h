@@ -20,9 +20,9 @@ struct Hotkey {
 
 bool operator==(const Hotkey& left, const Hotkey& right);
 
-// Capital and small letters alike, blanks around a "+" allowed: letters, digits, F1 to F24, Plus, Minus, Escape, Delete,
-// Backspace, Insert, Home, End, PageUp, PageDown, Up, Down, Left, Right, Space, Tab, Pause, Enter; "off" is none.
-// Nothing when the text is no key.
+// Capital and small letters alike, blanks around a "+" allowed: letters, digits, F1 to F24, Plus, Minus,
+// Escape, Delete, Backspace, Insert, Home, End, PageUp, PageDown, Up, Down, Left, Right, Space, Tab, Pause,
+// Enter; "off" is none. Nothing when the text is no key.
 std::optional<Hotkey> ParseHotkey(std::string_view text);
 
 // In one spelling, which ParseHotkey reads back.
@@ -36,12 +36,13 @@ struct HoldKey {
 
 bool operator==(const HoldKey& left, const HoldKey& right);
 
-// "Ctrl+Shift", "Ctrl+Shift+RightButton", "XButton1"; LeftButton, RightButton, MiddleButton, XButton1 and XButton2 are
-// buttons. Nothing alone would write all the time, so at least one is needed.
+// "Ctrl+Shift", "Ctrl+Shift+RightButton", "XButton1"; LeftButton, RightButton, MiddleButton, XButton1 and
+// XButton2 are buttons. Nothing alone would write all the time, so at least one is needed.
 std::optional<HoldKey> ParseHoldKey(std::string_view text);
 std::string TextOf(const HoldKey& hold);
 
-// Exactly these modifiers, so that AltGr, which is Ctrl and Alt to the system, does not write with Ctrl alone.
+// Exactly these modifiers, so that AltGr, which is Ctrl and Alt to the system, does not write with Ctrl
+// alone.
 bool IsHeld(const HoldKey& hold, unsigned modifiersDown, bool isButtonDown);
 
 } // namespace lumora_pen

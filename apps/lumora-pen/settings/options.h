@@ -11,8 +11,8 @@ namespace lumora_pen {
 
 // Names of files are UTF-8.
 struct Options {
-    std::string settingsFile; // empty: the user's own
-    bool board = false;       // begins in Board
+    std::string settingsFile;          // empty: the user's own
+    bool board = false;                // begins in Board
     std::optional<std::string> colour; // "1" to "6", or "RRGGBB"
     std::optional<BackEndName> backEnd;
     std::string recordFile; // empty: none

@@ -46,10 +46,10 @@ struct KeyDefault {
 const std::array<KeyDefault, KeyCommandCount>& KeyDefaults();
 
 struct Settings {
-    std::array<lumora::Colour, ColourCount> palette{{{224, 32, 32}, {32, 96, 224}, {16, 144, 64}, {240, 160, 0},
-                                                    {144, 48, 192}, {24, 24, 24}}};
-    std::size_t colour = 0;  // which of the palette
-    int width = 6;           // pixels at full pressure on a screen that is not scaled
+    std::array<lumora::Colour, ColourCount> palette{
+        {{224, 32, 32}, {32, 96, 224}, {16, 144, 64}, {240, 160, 0}, {144, 48, 192}, {24, 24, 24}}};
+    std::size_t colour = 0; // which of the palette
+    int width = 6;          // pixels at full pressure on a screen that is not scaled
     int trailLifeMs = 2000;
     int boardLifeMs = 0; // 0: until it is wiped or Board ends
     BackEndName backEnd = BackEndName::Composition;
@@ -68,7 +68,8 @@ struct Settings {
 
 bool operator==(const Settings& left, const Settings& right);
 
-// What was read, and what could not be: one line each for a person. A member that is missing or wrong keeps its default.
+// What was read, and what could not be: one line each for a person. A member that is missing or wrong keeps
+// its default.
 struct SettingsReading {
     Settings settings;
     std::vector<std::string> complaints;
@@ -77,8 +78,8 @@ struct SettingsReading {
 
 SettingsReading ReadSettings(std::string_view json);
 
-// The whole text of the file. What `previous` (the text that was read, or empty) holds beyond what this version knows
-// stays in it.
+// The whole text of the file. What `previous` (the text that was read, or empty) holds beyond what this
+// version knows stays in it.
 std::string WriteSettings(const Settings& settings, std::string_view previous);
 
 } // namespace lumora_pen
