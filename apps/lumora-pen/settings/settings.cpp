@@ -36,7 +36,8 @@ bool operator==(const Settings& left, const Settings& right)
            left.trailLifeMs == right.trailLifeMs && left.boardLifeMs == right.boardLifeMs &&
            left.backEnd == right.backEnd && left.trailWithPen == right.trailWithPen &&
            left.trailWithMouse == right.trailWithMouse && left.crossHair == right.crossHair &&
-           left.hold == right.hold && left.keys == right.keys;
+           left.outline == right.outline && left.pressure == right.pressure && left.offset == right.offset &&
+           left.zebra == right.zebra && left.hold == right.hold && left.keys == right.keys;
 }
 
 } // namespace lumora_pen

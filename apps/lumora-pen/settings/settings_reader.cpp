@@ -48,9 +48,9 @@ public:
         ReadNumber_(member::TrailLife, LeastLifeMs, MostLifeMs, settings.trailLifeMs);
         ReadBoardLife_(settings.boardLifeMs);
         ReadBackEnd_(settings.backEnd);
-        ReadSwitch_(member::TrailWithPen, settings.trailWithPen);
-        ReadSwitch_(member::TrailWithMouse, settings.trailWithMouse);
-        ReadSwitch_(member::CrossHair, settings.crossHair);
+        for (const Switch& known : Switches) {
+            ReadSwitch_(known.name, settings.*known.isOn);
+        }
         ReadHold_(settings.hold);
         ReadKeys_(settings.keys);
         return std::move(reading);

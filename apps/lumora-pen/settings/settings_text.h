@@ -1,7 +1,11 @@
 // How the settings file's text is made, for reading and writing alike.
 #pragma once
 
+#include "settings/settings.h"
+
+#include <array>
 #include <cstddef>
+#include <string_view>
 
 namespace lumora_pen {
 
@@ -20,12 +24,24 @@ inline constexpr char Width[] = "width";
 inline constexpr char TrailLife[] = "trail-life-ms";
 inline constexpr char BoardLife[] = "board-life-ms";
 inline constexpr char BackEnd[] = "back-end";
-inline constexpr char TrailWithPen[] = "trail-with-pen";
-inline constexpr char TrailWithMouse[] = "trail-with-mouse";
-inline constexpr char CrossHair[] = "cross-hair";
 inline constexpr char Hold[] = "hold";
 inline constexpr char Keys[] = "keys";
 
 } // namespace member
+
+struct Switch {
+    std::string_view name;
+    bool Settings::*isOn;
+};
+
+inline constexpr std::array Switches = {
+    Switch{"trail-with-pen", &Settings::trailWithPen},
+    Switch{"trail-with-mouse", &Settings::trailWithMouse},
+    Switch{"cross-hair", &Settings::crossHair},
+    Switch{"outline", &Settings::outline},
+    Switch{"pressure", &Settings::pressure},
+    Switch{"offset", &Settings::offset},
+    Switch{"zebra", &Settings::zebra},
+};
 
 } // namespace lumora_pen

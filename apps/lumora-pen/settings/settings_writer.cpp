@@ -63,9 +63,9 @@ std::string Written(const Settings& settings, Json file)
     file[member::TrailLife] = settings.trailLifeMs;
     file[member::BoardLife] = settings.boardLifeMs;
     file[member::BackEnd] = TextOf(settings.backEnd);
-    file[member::TrailWithPen] = settings.trailWithPen;
-    file[member::TrailWithMouse] = settings.trailWithMouse;
-    file[member::CrossHair] = settings.crossHair;
+    for (const Switch& known : Switches) {
+        file[std::string(known.name)] = settings.*known.isOn;
+    }
     file[member::Hold] = TextOf(settings.hold);
     WriteKeys(file, settings.keys);
     return Dumped(file);

@@ -13,9 +13,9 @@ namespace {
 using testing::IsEmpty;
 using testing::Not;
 
-class Store : public lumora::TemporaryFolder {
+class Store : public testing::Test {
 protected:
-    std::filesystem::path File() const { return Folder() / "pen.json"; }
+    std::filesystem::path File() const { return folder.Path() / "pen.json"; }
 
     Settings OnDisk() const { return LoadSettings(File()).settings; }
 
@@ -25,6 +25,8 @@ protected:
         settings.width = width;
         return settings;
     }
+
+    zq::LM::test::TemporaryFolder folder;
 };
 
 TEST_F(Store, WithoutAFileIsNewAndWritesNoneByItself)

@@ -23,6 +23,10 @@ Settings Unusual()
     settings.trailWithPen = false;
     settings.trailWithMouse = false;
     settings.crossHair = true;
+    settings.outline = true;
+    settings.pressure = false;
+    settings.offset = true;
+    settings.zebra = true;
     settings.hold = {AltModifier, 2};
     for (unsigned i = 0; i < KeyCommandCount; ++i) {
         settings.keys[i] = {WindowsModifier, 0x70 + i};
@@ -48,6 +52,10 @@ constexpr char WholeFile[] = R"({
   "trail-with-pen": true,
   "trail-with-mouse": true,
   "cross-hair": false,
+  "outline": false,
+  "pressure": true,
+  "offset": false,
+  "zebra": false,
   "hold": "Ctrl+Shift",
   "keys": {
     "board": "Ctrl+Alt+B",
@@ -98,6 +106,10 @@ TEST(EqualSettings, AreEqualInEveryField)
         [](Settings& s, const Settings& o) { s.trailWithPen = o.trailWithPen; },
         [](Settings& s, const Settings& o) { s.trailWithMouse = o.trailWithMouse; },
         [](Settings& s, const Settings& o) { s.crossHair = o.crossHair; },
+        [](Settings& s, const Settings& o) { s.outline = o.outline; },
+        [](Settings& s, const Settings& o) { s.pressure = o.pressure; },
+        [](Settings& s, const Settings& o) { s.offset = o.offset; },
+        [](Settings& s, const Settings& o) { s.zebra = o.zebra; },
         [](Settings& s, const Settings& o) { s.hold.modifiers = o.hold.modifiers; },
         [](Settings& s, const Settings& o) { s.hold.button = o.hold.button; },
         [](Settings& s, const Settings& o) { s.keys[11].key = o.keys[11].key; },
