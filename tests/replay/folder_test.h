@@ -3,6 +3,8 @@
 
 #include "support/temporary_folder.h"
 
+#include <gtest/gtest.h>
+
 namespace lumora::replay {
 
 class FolderTest : public testing::Test {

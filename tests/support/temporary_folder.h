@@ -1,8 +1,6 @@
 // The common set-up of tests with files: a folder of their own, which goes with them.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>
