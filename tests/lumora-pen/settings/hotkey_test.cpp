@@ -12,23 +12,20 @@ constexpr unsigned Shift = ShiftModifier;
 constexpr unsigned Win = WindowsModifier;
 
 // The system's numbers, said once more.
-const std::vector<std::pair<std::string, unsigned>>& AllKeys()
+std::vector<std::pair<std::string, unsigned>> AllKeys()
 {
-    static const auto keys = [] {
-        std::vector<std::pair<std::string, unsigned>> all = {
-            {"Plus", 0xBB},   {"Minus", 0xBD}, {"Escape", 0x1B}, {"Delete", 0x2E}, {"Backspace", 0x08},
-            {"Insert", 0x2D}, {"Home", 0x24},  {"End", 0x23},    {"PageUp", 0x21}, {"PageDown", 0x22},
-            {"Up", 0x26},     {"Down", 0x28},  {"Left", 0x25},   {"Right", 0x27},  {"Space", 0x20},
-            {"Tab", 0x09},    {"Pause", 0x13}, {"Enter", 0x0D}};
-        for (unsigned number = 1; number <= 24; ++number) {
-            all.emplace_back("F" + std::to_string(number), 0x6F + number);
-        }
-        for (const char sign : std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789")) {
-            all.emplace_back(std::string{sign}, static_cast<unsigned>(sign));
-        }
-        return all;
-    }();
-    return keys;
+    std::vector<std::pair<std::string, unsigned>> all = {
+        {"Plus", 0xBB},   {"Minus", 0xBD}, {"Escape", 0x1B}, {"Delete", 0x2E}, {"Backspace", 0x08},
+        {"Insert", 0x2D}, {"Home", 0x24},  {"End", 0x23},    {"PageUp", 0x21}, {"PageDown", 0x22},
+        {"Up", 0x26},     {"Down", 0x28},  {"Left", 0x25},   {"Right", 0x27},  {"Space", 0x20},
+        {"Tab", 0x09},    {"Pause", 0x13}, {"Enter", 0x0D}};
+    for (unsigned number = 1; number <= 24; ++number) {
+        all.emplace_back("F" + std::to_string(number), 0x6F + number);
+    }
+    for (const char sign : std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789")) {
+        all.emplace_back(std::string{sign}, static_cast<unsigned>(sign));
+    }
+    return all;
 }
 
 std::string Lower(std::string text)
