@@ -128,9 +128,8 @@ std::optional<LRESULT> BoardWindow::TakeOther_(UINT message, WPARAM wParam, LPAR
 {
     switch (message) {
     case WM_MOUSEACTIVATE:
-        return MA_NOACTIVATE;
     case WM_POINTERACTIVATE:
-        return PA_NOACTIVATE;
+        return MA_NOACTIVATE; // which is PA_NOACTIVATE too
     case WM_TABLET_QUERYSYSTEMGESTURESTATUS:
         return PressAndHoldAnswer();
     case WM_SETCURSOR:
