@@ -147,7 +147,7 @@ std::optional<LRESULT> BoardWindow::TakeOther_(UINT message, WPARAM wParam, LPAR
         return 1;
     case WM_DESTROY: // by Hide, or by somebody else
         state = BoardState::Hidden;
-        input.End(window);
+        input.End();
         return std::nullopt;
     case WM_NCDESTROY:
         ForgetPressAndHold(window);
