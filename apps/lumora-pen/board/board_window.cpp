@@ -128,9 +128,8 @@ std::optional<LRESULT> BoardWindow::TakeOther_(UINT message, WPARAM wParam, LPAR
 {
     switch (message) {
     case WM_MOUSEACTIVATE:
-        return MA_NOACTIVATE;
     case WM_POINTERACTIVATE:
-        return PA_NOACTIVATE;
+        return MA_NOACTIVATE; // which is PA_NOACTIVATE too
     case WM_TABLET_QUERYSYSTEMGESTURESTATUS:
         return PressAndHoldAnswer();
     case WM_SETCURSOR:
@@ -148,7 +147,7 @@ std::optional<LRESULT> BoardWindow::TakeOther_(UINT message, WPARAM wParam, LPAR
         return 1;
     case WM_DESTROY: // by Hide, or by somebody else
         state = BoardState::Hidden;
-        input.End(window);
+        input.End();
         return std::nullopt;
     case WM_NCDESTROY:
         ForgetPressAndHold(window);

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <limits>
+#include <utility>
 
 namespace lumora_pen {
 
@@ -213,7 +213,10 @@ std::unique_ptr<DryCanvas::Surface> DryCanvas::MakeSurface_(const PixelRectangle
         return nullptr;
     }
     auto made = std::make_unique<Surface>(area);
-    return made->IsWhole() ? std::move(made) : nullptr;
+    if (!made->IsWhole()) {
+        made.reset();
+    }
+    return made;
 }
 
 } // namespace lumora_pen

@@ -27,13 +27,6 @@ InputSample MouseSample(HWND window, LPARAM lParam)
             static_cast<std::uint32_t>(GetMessageTime())};
 }
 
-void GiveMouseBack(HWND window)
-{
-    if (GetCapture() == window) {
-        ReleaseCapture();
-    }
-}
-
 } // namespace
 
 PointerInput::PointerInput(TakeInput take) : writer(std::move(take)) {}
@@ -61,11 +54,7 @@ std::optional<LRESULT> PointerInput::Take(HWND window, UINT message, WPARAM wPar
     }
 }
 
-void PointerInput::End(HWND window)
-{
-    writer.End();
-    GiveMouseBack(window);
-}
+void PointerInput::End() { writer.End(); }
 
 // What is taken here does not come again as mouse.
 std::optional<LRESULT> PointerInput::TakePointer_(UINT message, WPARAM wParam)
@@ -124,7 +113,9 @@ std::optional<LRESULT> PointerInput::TakeMouse_(HWND window, UINT message, WPARA
 void PointerInput::LiftMouse_(HWND window, const InputSample& last)
 {
     writer.Up(Mouse, {last});
-    GiveMouseBack(window);
+    if (GetCapture() == window) { // it may be another's by now
+        ReleaseCapture();
+    }
 }
 
 } // namespace lumora_pen

@@ -25,8 +25,7 @@ public:
     // The message's answer; nothing when it is the system's.
     std::optional<LRESULT> Take(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    // Ends the stroke in the making and gives the mouse back.
-    void End(HWND window);
+    void End(); // of the stroke in the making; the captured mouse goes with the window
 
 private:
     std::optional<LRESULT> TakePointer_(UINT message, WPARAM wParam);

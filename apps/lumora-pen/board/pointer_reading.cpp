@@ -51,6 +51,7 @@ std::vector<Report> ReadReports(UINT32 pointer, BOOL(WINAPI* readNewest)(UINT32,
         history.assign(1, newest);
     }
     std::vector<Report> reports;
+    reports.reserve(history.size());
     for (const Info& info : history) {
         reports.push_back(ReportOf(info));
     }
@@ -99,6 +100,7 @@ std::optional<PointerReading> ReadPointer(UINT32 pointer)
     if (reports.empty()) {
         return reading;
     }
+    reading.samples.reserve(reports.size());
     const Tablet tablet = ReadTablet(reports.front().info.sourceDevice);
     for (const Report& report : reports) {
         reading.isCancelled = reading.isCancelled || (report.info.pointerFlags & POINTER_FLAG_CANCELED) != 0;

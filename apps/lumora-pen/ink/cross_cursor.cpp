@@ -38,7 +38,7 @@ CursorMasks CrossMasks(int width, int height)
     masks.hotX = width / 2;
     masks.hotY = height / 2;
     const int arm = (std::min)(width, height) / 3;
-    const auto rowBytes = static_cast<std::size_t>((width + 15) / 16 * 2);
+    const auto rowBytes = static_cast<std::size_t>(width + 15) / 16 * 2;
     masks.keep.assign(rowBytes * static_cast<std::size_t>(height), 0xFF);
     masks.white.assign(masks.keep.size(), 0);
     for (int y = 0; y < height; ++y) {

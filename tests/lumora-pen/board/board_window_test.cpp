@@ -5,7 +5,6 @@
 #include "support/screen/screen.h"
 
 #include <cstring>
-#include <optional>
 #include <stdexcept>
 
 #include <tpcshrd.h>
@@ -14,17 +13,7 @@ namespace lumora_pen::test {
 namespace {
 
 using testing::SizeIs;
-using zq::LM::test::PlaceOf;
 using zq::LM::test::PumpMessages;
-
-RECT SystemRectangle(const PixelRectangle& area) { return {area.left, area.top, area.right, area.bottom}; }
-
-void ExpectPlace(HWND window, const PixelRectangle& area)
-{
-    EXPECT_TRUE(zq::LM::test::IsAt(window, SystemRectangle(area)))
-        << PlaceOf(window).left << ' ' << PlaceOf(window).top << ' ' << PlaceOf(window).right << ' '
-        << PlaceOf(window).bottom;
-}
 
 // In the overlay's place: on top of all, and shown.
 class TopWindow {
@@ -42,33 +31,7 @@ public:
     HWND window;
 };
 
-// The system's calls by which the window gets its picture.
-class Board : public BoardTest {
-protected:
-    Board()
-    {
-        parts.Before([this](HWND, const UPDATELAYEREDWINDOWINFO* info) {
-            part = info->prcDirty != nullptr ? std::optional(*info->prcDirty) : std::nullopt;
-        });
-    }
-
-    void FailBothUpdates()
-    {
-        parts.Fail(FALSE);
-        wholes.Fail(FALSE);
-    }
-
-    void ExpectPart(const PixelRectangle& expected) const
-    {
-        ASSERT_TRUE(part.has_value());
-        EXPECT_EQ((PixelRectangle{part->left, part->top, part->right, part->bottom}), expected);
-    }
-
-    Hook<"UpdateLayeredWindowIndirect", decltype(UpdateLayeredWindowIndirect)> parts{program};
-    Hook<"UpdateLayeredWindow", decltype(UpdateLayeredWindow)> wholes{program};
-    Hook<"CreateDIBSection", decltype(CreateDIBSection)> bitmaps{program};
-    std::optional<RECT> part; // of the last update
-};
+class Board : public BoardTest {};
 
 TEST_F(Board, CoversTheVirtualScreen)
 {
@@ -76,14 +39,14 @@ TEST_F(Board, CoversTheVirtualScreen)
     EXPECT_EQ(board.Show(nullptr), BoardState::TakesInputAndInk);
     EXPECT_TRUE(board.IsShown());
     EXPECT_TRUE(IsWindowVisible(board.Window()));
-    ExpectPlace(board.Window(), screen);
+    ExpectWindowAt(screen);
 }
 
 TEST_F(Board, CoversAScreenThatBeginsLeftOfAndAboveTheFirstMonitor)
 {
     screen = {-1280, -200, 1920, 1080};
     board.Show(nullptr);
-    ExpectPlace(board.Window(), screen);
+    ExpectWindowAt(screen);
     EXPECT_TRUE(DrawLine(-1000, -150, -900, -150));
     EXPECT_EQ(At(-950, -150), RedInk);
     ExpectPart({275, 45, 385, 55}); // counted from the window's corner
@@ -289,61 +252,6 @@ TEST_F(Board, KeepsWhatWhoTakesTheInputThrows)
     board.Hide(); // the end of the stroke throws too
     EXPECT_FALSE(board.IsShown());
     EXPECT_NE(board.TakeFailure(), nullptr);
-}
-
-class BoardOnAChangedScreen : public Board, public testing::WithParamInterface<UINT> {};
-
-INSTANTIATE_TEST_SUITE_P(Messages, BoardOnAChangedScreen, testing::Values(WM_DISPLAYCHANGE, WM_DPICHANGED));
-
-TEST_P(BoardOnAChangedScreen, KeepsItsInkWhereItWas)
-{
-    board.Show(nullptr);
-    DrawLine(100, 50, 200, 50);
-    screen = {-1280, -100, 1920, 1080};
-    Send(GetParam());
-    ExpectPlace(board.Window(), screen);
-    ExpectPart({0, 0, 3200, 1180});
-    EXPECT_EQ(board.State(), BoardState::TakesInputAndInk);
-    EXPECT_EQ(board.Canvas().Area(), screen);
-    EXPECT_EQ(At(150, 50), RedInk);
-    EXPECT_EQ(At(-1130, -50), DryCanvas::Ground);
-    EXPECT_TRUE(DrawLine(-1000, -50, -900, -50));
-    EXPECT_EQ(At(-950, -50), RedInk);
-}
-
-TEST_P(BoardOnAChangedScreen, WithoutMemoryTakesInputOnAllOfIt)
-{
-    board.Show(nullptr);
-    screen = {-1280, 0, 1920, 1080};
-    bitmaps.Fail(nullptr);
-    Send(GetParam());
-    ExpectPlace(board.Window(), screen);
-    EXPECT_EQ(board.State(), BoardState::TakesInput);
-    EXPECT_TRUE(IsWindowVisible(board.Window()));
-}
-
-TEST_P(BoardOnAChangedScreen, GoesOnWithTheStrokeInTheMaking)
-{
-    board.Show(nullptr);
-    SendMouse(WM_LBUTTONDOWN, 100, 50);
-    screen = {-1280, 0, 1920, 1080};
-    Send(GetParam());
-    SendMouse(WM_MOUSEMOVE, -200, 60);
-    ASSERT_THAT(taken, SizeIs(2));
-    EXPECT_EQ(taken[1].samples.back().x, -200);
-    EXPECT_EQ(taken[1].samples.back().pressure, FullPressure);
-}
-
-TEST_F(Board, ScreenThatBecomesSmallerKeepsTheInkThatIsLeftOnIt)
-{
-    screen = {-1280, 0, 1024, 768};
-    board.Show(nullptr);
-    DrawLine(-1000, 50, 200, 50);
-    screen = {0, 0, 1024, 768};
-    Send(WM_DISPLAYCHANGE);
-    EXPECT_EQ(board.Canvas().Area(), screen);
-    EXPECT_EQ(At(0, 50), RedInk);
-    EXPECT_EQ(At(150, 50), RedInk);
 }
 
 TEST_F(Board, HasAPointerOfItsOwn)

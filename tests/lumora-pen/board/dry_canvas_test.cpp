@@ -129,6 +129,14 @@ TEST_F(Canvas, SegmentFromAndToFarAwayCrossesAtItsRow)
     EXPECT_EQ(At(100, 50), DryCanvas::Ground);
 }
 
+TEST_F(Canvas, InkBesideTheScreenReachesIn)
+{
+    Draw({{-20, -55, 20, 0}, {20, -55, 20, 0}});
+    EXPECT_EQ(At(0, -50), RedInk);
+    Draw({{304, 60, 20, 0}});
+    EXPECT_EQ(At(299, 60), RedInk);
+}
+
 TEST_F(Canvas, PositionsBeyondReasonDrawNothingAndHarmNothing)
 {
     const double none = std::numeric_limits<double>::quiet_NaN();

@@ -93,24 +93,6 @@ protected:
         return Send(message, MAKEWPARAM(pointer, flags), 0);
     }
 
-    static std::vector<std::pair<double, double>> PlacesOf(const InputBatch& batch)
-    {
-        std::vector<std::pair<double, double>> places;
-        for (const InputSample& sample : batch.samples) {
-            places.emplace_back(sample.x, sample.y);
-        }
-        return places;
-    }
-
-    static std::vector<std::int32_t> PressuresOf(const InputBatch& batch)
-    {
-        std::vector<std::int32_t> felt;
-        for (const InputSample& sample : batch.samples) {
-            felt.push_back(sample.pressure);
-        }
-        return felt;
-    }
-
     Hook<"GetPointerType", decltype(GetPointerType)> type{program};
     Hook<"GetPointerInfo", decltype(GetPointerInfo)> plain{program};
     Hook<"GetPointerPenInfo", decltype(GetPointerPenInfo)> newestPen{program};
@@ -118,7 +100,6 @@ protected:
     Hook<"GetPointerTouchInfo", decltype(GetPointerTouchInfo)> newestTouch{program};
     Hook<"GetPointerTouchInfoHistory", decltype(GetPointerTouchInfoHistory)> allTouch{program};
     Hook<"GetPointerDeviceRects", decltype(GetPointerDeviceRects)> rectangles{program};
-    Hook<"GetMessageExtraInfo", decltype(GetMessageExtraInfo)> extra{program};
 
     POINTER_INPUT_TYPE kind = PT_PEN;
     PEN_FLAGS penFlags = 0;
@@ -127,8 +108,6 @@ protected:
     std::vector<UINT32> pressures;
     DWORD time = 1000;
 };
-
-using Place = std::pair<double, double>;
 
 TEST_F(BoardInput, ReportsOfOneMessageAreOneBatchOldestFirst)
 {
@@ -337,90 +316,11 @@ TEST_F(BoardInput, PointerThatIsNeitherPenNorFingerIsTheSystems)
     EXPECT_EQ(newestPen.Count(), 0U);
 }
 
-TEST_F(BoardInput, MouseWritesFromButtonToButton)
-{
-    SendMouse(WM_MOUSEMOVE, 90, 50, false);
-    EXPECT_THAT(taken, IsEmpty());
-    SendMouse(WM_LBUTTONDOWN, 100, 50);
-    EXPECT_EQ(GetCapture(), board.Window());
-    SendMouse(WM_MOUSEMOVE, 110, 51);
-    SendMouse(WM_LBUTTONUP, 120, 52, false);
-    ASSERT_THAT(taken, SizeIs(3));
-    EXPECT_EQ(taken[0].source, Mouse);
-    EXPECT_THAT(PlacesOf(taken[0]), ElementsAre(Place(100, 50)));
-    EXPECT_THAT(PlacesOf(taken[1]), ElementsAre(Place(110, 51)));
-    EXPECT_THAT(PressuresOf(taken[1]), ElementsAre(FullPressure));
-    EXPECT_THAT(PlacesOf(taken[2]), ElementsAre(Place(120, 52)));
-    EXPECT_THAT(PressuresOf(taken[2]), ElementsAre(0));
-    EXPECT_EQ(GetCapture(), nullptr);
-    for (const InputBatch& batch : taken) {
-        EXPECT_FALSE(batch.isCancelled);
-    }
-}
-
-TEST_F(BoardInput, MouseIsWhereItIsOnAScreenThatBeginsLeftOfTheFirstMonitor)
-{
-    board.Hide();
-    screen = {-1280, -100, 1920, 1080};
-    board.Show(nullptr);
-    SendMouse(WM_LBUTTONDOWN, -1000, -50);
-    EXPECT_THAT(PlacesOf(taken[0]), ElementsAre(Place(-1000, -50)));
-}
-
-TEST_F(BoardInput, MouseThatTheSystemMakesOfAPenIsNotTakenTwice)
-{
-    for (const LPARAM mark : {0xFF515700, 0xFF51577F, 0xFF5157FF}) {
-        extra.Answer([mark] { return mark; });
-        EXPECT_EQ(SendMouse(WM_LBUTTONDOWN, 100, 50), 0);
-        SendMouse(WM_LBUTTONUP, 100, 50, false);
-    }
-    EXPECT_THAT(taken, IsEmpty());
-    extra.Answer([] { return LPARAM{0xFF515600}; }); // somebody else's mark
-    SendMouse(WM_LBUTTONDOWN, 100, 50);
-    EXPECT_THAT(taken, SizeIs(1));
-}
-
-TEST_F(BoardInput, LostCaptureOfTheMouseCancelsItsStroke)
-{
-    SendMouse(WM_LBUTTONDOWN, 100, 50);
-    ReleaseCapture();
-    ASSERT_THAT(taken, SizeIs(2));
-    EXPECT_TRUE(taken[1].isCancelled);
-    EXPECT_THAT(PressuresOf(taken[1]), ElementsAre(0));
-    SendMouse(WM_MOUSEMOVE, 110, 50);
-    SendMouse(WM_LBUTTONUP, 110, 50, false);
-    EXPECT_THAT(taken, SizeIs(2));
-}
-
 TEST_F(BoardInput, LossOfTheMouseIsNothingToAPenThatWrites)
 {
     SendPointer(WM_POINTERDOWN, {{1000, 1000, 512}});
     Send(WM_CAPTURECHANGED);
     EXPECT_THAT(taken, SizeIs(1));
-}
-
-TEST_F(BoardInput, MouseWhoseButtonCameUpUnseenEndsItsStroke)
-{
-    SendMouse(WM_LBUTTONDOWN, 100, 50);
-    SendMouse(WM_MOUSEMOVE, 110, 50, false);
-    ASSERT_THAT(taken, SizeIs(2));
-    EXPECT_THAT(PressuresOf(taken[1]), ElementsAre(0));
-    EXPECT_FALSE(taken[1].isCancelled);
-    EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(BoardInput, MouseHistoryIsUsedWhereThereIsOne)
-{
-    board.UseMouseHistory([](const InputSample& newest) {
-        InputSample before = newest;
-        before.x -= 5;
-        return std::vector<InputSample>{before, newest};
-    });
-    SendMouse(WM_LBUTTONDOWN, 100, 50);
-    SendMouse(WM_MOUSEMOVE, 110, 50);
-    ASSERT_THAT(taken, SizeIs(2));
-    EXPECT_THAT(PlacesOf(taken[0]), ElementsAre(Place(100, 50)));
-    EXPECT_THAT(PlacesOf(taken[1]), ElementsAre(Place(105, 50), Place(110, 50)));
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace {
 // A row: '#' black, 'o' white, '.' see-through, '!' inverted.
 std::string Row(const CursorMasks& masks, int y, int width)
 {
-    const auto rowBytes = static_cast<std::size_t>((width + 15) / 16 * 2);
+    const auto rowBytes = static_cast<std::size_t>(width + 15) / 16 * 2;
     std::string row;
     for (int x = 0; x < width; ++x) {
         const std::size_t place = static_cast<std::size_t>(y) * rowBytes + static_cast<std::size_t>(x / 8);
@@ -60,7 +60,9 @@ TEST(CrossCursor, IsNeverInvertedNorBlackWithoutAWhiteEdge)
         for (int y = 1; y + 1 < size; ++y) {
             for (int x = 1; x + 1 < size; ++x) {
                 const auto at = [&](int dx, int dy) {
-                    return rows[static_cast<std::size_t>(y + dy)][static_cast<std::size_t>(x + dx)];
+                    const int row = y + dy;
+                    const int column = x + dx;
+                    return rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
                 };
                 ASSERT_NE(at(0, 0), '!');
                 if (at(0, 0) == '#') {

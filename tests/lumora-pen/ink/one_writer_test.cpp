@@ -182,6 +182,14 @@ TEST_F(Writing, WriterThatLeavesEndsItsStroke)
     EXPECT_FALSE(taken[1].isCancelled);
 }
 
+TEST_F(Writing, PenThatHoveredBeforeItWroteLeavesOnce)
+{
+    writer.Move(Pen, {At(1, 0)});
+    writer.Down(Pen, {At(1, 500)});
+    writer.Leave(Pen);
+    EXPECT_THAT(taken, SizeIs(3));
+}
+
 TEST_F(Writing, EndIsThatOfWhoeverWrites)
 {
     writer.End();
