@@ -73,6 +73,41 @@ TEST_F(MouseHistoryTest, OlderPointsThanTheKnownOneAreNotNew)
     EXPECT_THAT(Take({{30, 10, 130}, {20, 10, 100}, {19, 10, 99}}), ElementsAre(At(30, 10)));
 }
 
+// The cursor's stamp is that of the program's clock, the history's may be of the display's.
+TEST_F(MouseHistoryTest, MouseThatHasMovedIsSeenThoughTheHistorysClockIsBehind)
+{
+    history.SkipTo({10, 10, 100});
+    EXPECT_THAT(Take({{30, 10, 97}, {20, 10, 96}}), ElementsAre(At(30, 10)));
+    EXPECT_THAT(Take({{31, 10, 98}, {30, 10, 97}, {20, 10, 96}}), ElementsAre(At(31, 10)));
+}
+
+TEST_F(MouseHistoryTest, PointsWhoseTimesAreOutOfOrderAreTakenInTheOrderTheyHave)
+{
+    history.SkipTo({10, 10, 100});
+    EXPECT_THAT(Take({{13, 10, 101}, {12, 10, 103}, {11, 10, 102}, {10, 10, 105}}),
+                ElementsAre(At(11, 10), At(12, 10), At(13, 10)));
+}
+
+TEST_F(MouseHistoryTest, MouseThatRestsIsNotNewThoughItsPointIsGone)
+{
+    history.SkipTo({10, 10, 100});
+    Take({{11, 10, 102}, {10, 10, 100}});
+    EXPECT_THAT(Take({{11, 10, 101}, {10, 10, 99}}), IsEmpty());
+}
+
+TEST_F(MouseHistoryTest, MouseThatRestsIsNotNewThoughItsPointHasAnotherTime)
+{
+    history.SkipTo({10, 10, 100});
+    Take({{11, 10, 50}, {10, 10, 100}}); // a stamp from long ago
+    EXPECT_THAT(Take({{11, 10, 130}, {10, 10, 100}, {9, 9, 90}}), IsEmpty());
+}
+
+TEST_F(MouseHistoryTest, HistoryThatHoldsNothingIsNone)
+{
+    history.SkipTo({10, 10, 100});
+    EXPECT_THAT(Take({{0, 0, 0}, {0, 0, 0}}, {20, 10, 104}), ElementsAre(At(20, 10)));
+}
+
 TEST_F(MouseHistoryTest, FirstLookTakesTheNewestPointAlone)
 {
     EXPECT_THAT(Take({{30, 10, 130}, {20, 10, 120}}), ElementsAre(At(30, 10)));
