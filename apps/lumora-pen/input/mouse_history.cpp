@@ -44,7 +44,7 @@ void MouseHistory::Take(std::span<const MousePoint> newestFirst, const MousePoin
                         std::vector<InputSample>& samples)
 {
     const auto points = Filled(newestFirst.first((std::min)(newestFirst.size(), MostMousePoints)));
-    if (points.empty()) {
+    if (points.empty() || IsOfOldVisit_(Unwrapped(points.front()))) {
         const MousePoint place = Unwrapped(cursor);
         if (!last || !IsSamePlace(last->point, place)) {
             samples.push_back(SampleOf(place, FullPressure));
@@ -91,6 +91,15 @@ std::size_t MouseHistory::CountOfNew_(std::span<const MousePoint> newestFirst) c
         known = std::find_if(newestFirst.begin() + 1, newestFirst.end(), isOld);
     }
     return static_cast<std::size_t>(known - newestFirst.begin());
+}
+
+// The system is asked for the history up to the cursor's place. Where it has not noted yet that the cursor is
+// there, it finds an earlier time that it was.
+bool MouseHistory::IsOfOldVisit_(const MousePoint& newest) const
+{
+    constexpr std::uint32_t MostBehindMs = 200; // of the history's clock
+    return last && IsLater(last->point.time, newest.time) &&
+           (last->isOfHistory || last->point.time - newest.time > MostBehindMs);
 }
 
 void MouseHistory::Know_(const MousePoint& point, bool isOfHistory) { last = Known{point, isOfHistory}; }

@@ -10,9 +10,16 @@ namespace {
 
 lumora_pen::RawInput* g_input = nullptr;
 
+void Print(const std::string& line)
+{
+    std::puts(line.c_str());
+    std::fflush(stdout);
+}
+
 LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INPUT && g_input != nullptr) {
+        Print("input");
         g_input->OnInput(reinterpret_cast<HRAWINPUT>(lParam));
     }
     return DefWindowProcW(window, message, wParam, lParam);
@@ -27,12 +34,6 @@ HWND MakeWindow()
     RegisterClassW(&description);
     return CreateWindowExW(0, description.lpszClassName, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
                            description.hInstance, nullptr);
-}
-
-void Print(const std::string& line)
-{
-    std::puts(line.c_str());
-    std::fflush(stdout);
 }
 
 } // namespace
