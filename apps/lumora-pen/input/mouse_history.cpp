@@ -27,17 +27,13 @@ InputSample SampleOf(const MousePoint& point, std::int32_t pressure)
     return {static_cast<double>(point.x), static_cast<double>(point.y), pressure, point.time};
 }
 
-// Places of the history that were never filled are all zero: time runs backwards only up to them.
-std::span<const MousePoint> InOrder(std::span<const MousePoint> newestFirst)
+// What was never filled is all zero.
+std::span<const MousePoint> Filled(std::span<const MousePoint> newestFirst)
 {
-    const auto disorder = std::adjacent_find(
-        newestFirst.begin(), newestFirst.end(), [](const MousePoint& newer, const MousePoint& older) {
-            return IsLater(older.time, newer.time) || (older.time == 0 && newer.time != 0);
-        });
-    if (disorder == newestFirst.end()) {
-        return newestFirst;
-    }
-    return newestFirst.first(static_cast<std::size_t>(disorder - newestFirst.begin()) + 1);
+    const auto unfilled = std::find_if(newestFirst.begin(), newestFirst.end(), [](const MousePoint& point) {
+        return point.x == 0 && point.y == 0 && point.time == 0;
+    });
+    return newestFirst.first(static_cast<std::size_t>(unfilled - newestFirst.begin()));
 }
 
 } // namespace
@@ -47,8 +43,8 @@ void MouseHistory::SkipTo(const MousePoint& cursor) { Know_(Unwrapped(cursor), f
 void MouseHistory::Take(std::span<const MousePoint> newestFirst, const MousePoint& cursor,
                         std::vector<InputSample>& samples)
 {
-    const auto points = InOrder(newestFirst.first((std::min)(newestFirst.size(), MostMousePoints)));
-    if (points.empty()) {
+    const auto points = Filled(newestFirst.first((std::min)(newestFirst.size(), MostMousePoints)));
+    if (points.empty() || IsOfOldVisit_(Unwrapped(points.front()))) {
         const MousePoint place = Unwrapped(cursor);
         if (!last || !IsSamePlace(last->point, place)) {
             samples.push_back(SampleOf(place, FullPressure));
@@ -77,18 +73,33 @@ std::size_t MouseHistory::CountOfNew_(std::span<const MousePoint> newestFirst) c
     if (!last) {
         return 1;
     }
-    // The system's clock may stand still for several points, so the point itself says more than its time.
-    const auto known = std::find_if(newestFirst.begin(), newestFirst.end(), [this](const MousePoint& point) {
-        return IsSamePlace(Unwrapped(point), last->point) &&
-               (!last->isOfHistory || point.time == last->point.time);
-    });
-    const auto end =
-        known != newestFirst.end()
-            ? known
-            : std::find_if(newestFirst.begin(), newestFirst.end(), [this](const MousePoint& point) {
-                  return !IsLater(point.time, last->point.time);
-              });
-    return static_cast<std::size_t>(end - newestFirst.begin());
+    // Stamps are of more than one clock, each may stand still, and a mouse that rests may be given another
+    // one: so the point says more than its place, and its place more than its time.
+    const auto isPlace = [this](const MousePoint& point) {
+        return IsSamePlace(Unwrapped(point), last->point);
+    };
+    const auto isPoint = [&](const MousePoint& point) {
+        return isPlace(point) && (!last->isOfHistory || point.time == last->point.time);
+    };
+    const auto isOld = [this](const MousePoint& point) { return !IsLater(point.time, last->point.time); };
+
+    auto known = std::find_if(newestFirst.begin(), newestFirst.end(), isPoint);
+    if (known == newestFirst.end()) {
+        known = std::find_if(newestFirst.begin(), newestFirst.end(), isPlace);
+    }
+    if (known == newestFirst.end()) { // the newest is new, for the mouse has moved
+        known = std::find_if(newestFirst.begin() + 1, newestFirst.end(), isOld);
+    }
+    return static_cast<std::size_t>(known - newestFirst.begin());
+}
+
+// The system is asked for the history up to the cursor's place. Where it has not noted yet that the cursor is
+// there, it finds an earlier time that it was.
+bool MouseHistory::IsOfOldVisit_(const MousePoint& newest) const
+{
+    constexpr std::uint32_t MostBehindMs = 200; // of the history's clock
+    return last && IsLater(last->point.time, newest.time) &&
+           (last->isOfHistory || last->point.time - newest.time > MostBehindMs);
 }
 
 void MouseHistory::Know_(const MousePoint& point, bool isOfHistory) { last = Known{point, isOfHistory}; }

@@ -41,6 +41,7 @@ private:
     };
 
     std::size_t CountOfNew_(std::span<const MousePoint> newestFirst) const;
+    bool IsOfOldVisit_(const MousePoint& newest) const;
     void Know_(const MousePoint& point, bool isOfHistory);
 
     std::optional<Known> last;

@@ -14,7 +14,7 @@ namespace {
 std::wstring NumbersOf(const RID_DEVICE_INFO_HID& facts)
 {
     wchar_t text[32] = {};
-    std::swprintf(text, std::size(text), L"%04lX:%04lX", facts.dwVendorId, facts.dwProductId);
+    (void)std::swprintf(text, std::size(text), L"%04lX:%04lX", facts.dwVendorId, facts.dwProductId);
     return text;
 }
 

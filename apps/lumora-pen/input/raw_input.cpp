@@ -61,10 +61,10 @@ bool RawInput::SetPens(bool wanted)
     return true;
 }
 
-void RawInput::OnInput(HRAWINPUT handle)
+void RawInput::OnInput(HRAWINPUT input)
 {
     // What was on its way when a kind was switched off writes nothing any more.
-    if (!message.Read(handle)) {
+    if (!message.Read(input)) {
         return;
     }
     if (message.IsMouse()) {
@@ -100,8 +100,13 @@ void RawInput::OnDeviceChange(WPARAM change, HANDLE device)
 void RawInput::OnDisplayChange()
 {
     AskForPlaces_();
-    for (std::size_t i = 0; i < pens.size(); ++i) { // what takes the batch may change them
-        LeavePen_(*pens[i].pen, GetTickCount());    // else the stroke would go on elsewhere
+    // A stroke would go on elsewhere. What takes the batch may change the list.
+    std::vector<std::shared_ptr<PenDevice>> all;
+    for (const Known& known : pens) {
+        all.push_back(known.pen);
+    }
+    for (const auto& pen : all) {
+        LeavePen_(*pen, GetTickCount());
     }
 }
 
@@ -167,7 +172,7 @@ PenDevice* RawInput::FindPen_(HANDLE device)
     if (!facts) {
         return nullptr;
     }
-    pens.push_back({device, std::make_unique<PenDevice>(device, *facts, nextPen++)});
+    pens.push_back({device, std::make_shared<PenDevice>(device, *facts, nextPen++)});
     return pens.back().pen.get();
 }
 

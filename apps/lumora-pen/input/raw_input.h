@@ -26,7 +26,7 @@ public:
     bool SetMouse(bool wanted);
     bool SetPens(bool wanted);
 
-    void OnInput(HRAWINPUT message);                   // at WM_INPUT
+    void OnInput(HRAWINPUT input);                     // at WM_INPUT
     void OnDeviceChange(WPARAM change, HANDLE device); // at WM_INPUT_DEVICE_CHANGE
     void OnDisplayChange();                            // at WM_DISPLAYCHANGE
 
@@ -50,7 +50,7 @@ private:
 
     struct Known {
         HANDLE handle;
-        std::unique_ptr<PenDevice> pen;
+        std::shared_ptr<PenDevice> pen;
     };
 
     HWND window;

@@ -73,6 +73,45 @@ TEST_F(MouseHistoryTest, OlderPointsThanTheKnownOneAreNotNew)
     EXPECT_THAT(Take({{30, 10, 130}, {20, 10, 100}, {19, 10, 99}}), ElementsAre(At(30, 10)));
 }
 
+// The cursor's stamp is that of the program's clock, the history's may be of the display's.
+TEST_F(MouseHistoryTest, MouseThatHasMovedIsSeenThoughTheHistorysClockIsBehind)
+{
+    history.SkipTo({10, 10, 100});
+    EXPECT_THAT(Take({{30, 10, 97}, {20, 10, 96}}), ElementsAre(At(30, 10)));
+    EXPECT_THAT(Take({{31, 10, 98}, {30, 10, 97}, {20, 10, 96}}), ElementsAre(At(31, 10)));
+}
+
+TEST_F(MouseHistoryTest, HistoryOfAnEarlierVisitIsNotTaken)
+{
+    history.SkipTo({10, 10, 1000});
+    EXPECT_THAT(Take({{20, 10, 500}, {15, 10, 490}, {10, 10, 480}}, {20, 10, 1002}), ElementsAre(At(20, 10)));
+    EXPECT_EQ(samples[0].time, 1002U);
+    EXPECT_THAT(Take({{22, 10, 1001}, {20, 10, 1000}, {10, 10, 995}, {20, 10, 500}}),
+                ElementsAre(At(22, 10)));
+    EXPECT_THAT(Take({{20, 10, 1000}, {10, 10, 995}, {20, 10, 500}}, {20, 10, 1004}),
+                ElementsAre(At(20, 10)));
+}
+
+TEST_F(MouseHistoryTest, HistoryWhoseClockWasSetBackLeavesItToTheCursor)
+{
+    history.SkipTo({10, 10, 100'000});
+    EXPECT_THAT(Take({{13, 10, 502}, {12, 10, 501}}, {13, 10, 100'004}), ElementsAre(At(13, 10)));
+    EXPECT_THAT(Take({{14, 10, 503}, {13, 10, 502}}, {14, 10, 100'008}), ElementsAre(At(14, 10)));
+}
+
+TEST_F(MouseHistoryTest, MouseThatRestsIsNotNewThoughItsPointHasAnotherTime)
+{
+    history.SkipTo({10, 10, 100});
+    Take({{11, 10, 50}, {10, 10, 100}}); // a stamp from long ago
+    EXPECT_THAT(Take({{11, 10, 130}, {10, 10, 100}, {9, 9, 90}}), IsEmpty());
+}
+
+TEST_F(MouseHistoryTest, HistoryThatHoldsNothingIsNone)
+{
+    history.SkipTo({10, 10, 100});
+    EXPECT_THAT(Take({{0, 0, 0}, {0, 0, 0}}, {20, 10, 104}), ElementsAre(At(20, 10)));
+}
+
 TEST_F(MouseHistoryTest, FirstLookTakesTheNewestPointAlone)
 {
     EXPECT_THAT(Take({{30, 10, 130}, {20, 10, 120}}), ElementsAre(At(30, 10)));
