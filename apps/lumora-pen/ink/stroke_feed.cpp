@@ -17,6 +17,7 @@ StrokeSteps StrokeFeed::Take(const InputBatch& batch)
         steps.samples.insert(steps.samples.end(), end.samples.begin(), end.samples.end());
         steps.ends = true;
     }
+    steps.isCancelled = batch.isCancelled && steps.ends;
     return steps;
 }
 

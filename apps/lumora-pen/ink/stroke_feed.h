@@ -11,8 +11,9 @@ namespace lumora_pen {
 // What a batch comes to, oldest first. Pressure 0 ends the stroke before it or hovers.
 struct StrokeSteps {
     std::vector<InputSample> samples;
-    bool begins = false; // a stroke, with the first touching sample
-    bool ends = false;   // the stroke in the making
+    bool begins = false;      // a stroke, with the first touching sample
+    bool ends = false;        // the stroke in the making
+    bool isCancelled = false; // and was not meant
 };
 
 class StrokeFeed {

@@ -41,7 +41,9 @@ void BoardInk::Take(const StrokeSteps& steps, const lumora::Params& style, std::
         }
     }
     if (steps.ends) {
-        board.Draw(stroke.DryRest(), colour);
+        if (!steps.isCancelled) {
+            board.Draw(stroke.DryRest(), colour);
+        }
         stroke = {};
     }
 }

@@ -195,8 +195,12 @@ void Conductor::LookAtHoldKey_()
 void Conductor::Apply_()
 {
     const Needs needs = NeedsOf(doing, store.Get());
-    raw.SetMouse(needs.mouse);
-    raw.SetPens(needs.pens);
+    if (!raw.SetMouse(needs.mouse)) {
+        Say_("The system does not tell what the mouse does: on the Board it writes all the same.");
+    }
+    if (!raw.SetPens(needs.pens)) {
+        Say_("The system does not tell what pens do: on the Board they write all the same.");
+    }
     if (needs.board && ink.Window() != nullptr) {
         board.Show(ink.Window());
     } else {
@@ -233,6 +237,9 @@ void Conductor::ChangeMode_(Mode mode)
     doing = {mode, false};
     Apply_();
     ApplyStyle_();
+    if (mode == Mode::Board && !board.KeepsInk()) {
+        Say_("There is no memory for the Board's ink: it goes by itself.");
+    }
     icon.SetTip(mode == Mode::Board ? "Lumora Pen: Board" : "Lumora Pen");
 }
 

@@ -77,7 +77,17 @@ TEST(StrokeFeed, CancelEndsTheStrokeWhereItIs)
     EXPECT_THAT(steps.samples, ElementsAre(Field(&InputSample::x, 8)));
     EXPECT_THAT(PressuresOf(steps), ElementsAre(0));
     EXPECT_TRUE(steps.ends);
+    EXPECT_TRUE(steps.isCancelled);
     EXPECT_FALSE(feed.IsWriting());
+}
+
+TEST(StrokeFeed, CancelThatLiftsThePenItselfLiftsItOnce)
+{
+    StrokeFeed feed;
+    feed.Take({Pen, {{8, 9, 100, 1}}});
+    const auto steps = feed.Take({Pen, {{8, 9, 0, 2}}, true});
+    EXPECT_THAT(PressuresOf(steps), ElementsAre(0));
+    EXPECT_TRUE(steps.isCancelled);
 }
 
 TEST(StrokeFeed, CancelOfNothingIsNothing)
@@ -86,6 +96,7 @@ TEST(StrokeFeed, CancelOfNothingIsNothing)
     const auto steps = feed.Take({Pen, {}, true});
     EXPECT_THAT(steps.samples, IsEmpty());
     EXPECT_FALSE(steps.ends);
+    EXPECT_FALSE(steps.isCancelled);
 }
 
 TEST(StrokeFeed, CancelOfAnotherLeavesTheStroke)
