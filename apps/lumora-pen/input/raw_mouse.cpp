@@ -46,6 +46,12 @@ void RawMouse::Look(std::uint32_t now, std::vector<InputSample>& samples)
     writes = writes || samples.size() > before;
 }
 
+void RawMouse::Begin(const InputSample& place)
+{
+    history.SkipTo({static_cast<std::int32_t>(place.x), static_cast<std::int32_t>(place.y), place.time});
+    writes = true;
+}
+
 void RawMouse::Rest(std::uint32_t now, std::vector<InputSample>& samples)
 {
     if (writes) {

@@ -20,6 +20,9 @@ public:
     // It writes no longer, whatever the key says, and has come without writing to where it is.
     void Rest(std::uint32_t now, std::vector<InputSample>& samples);
 
+    // It begins to write here, whatever way it has gone since.
+    void Begin(const InputSample& place);
+
 private:
     std::function<bool()> isHeld;
     MouseHistory history;

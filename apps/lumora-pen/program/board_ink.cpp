@@ -15,6 +15,16 @@ constexpr double OffsetPixels = 50; // of lumora::Params::useOffset
 
 } // namespace
 
+// While the Board is asked, the mouse writes on it.
+BoardInk::BoardInk(TakeInput take) : mouse([] { return true; }), board(std::move(take))
+{
+    board.UseMouseHistory([this](const InputSample& newest) {
+        std::vector<InputSample> samples;
+        mouse.Look(newest.time, samples);
+        return samples;
+    });
+}
+
 bool BoardInk::Show(HWND overlay)
 {
     if (board.IsShown()) {
@@ -33,7 +43,9 @@ void BoardInk::Hide()
 
 void BoardInk::Take(const StrokeSteps& steps, const lumora::Params& style, std::uint32_t now)
 {
-    colour = style.inkColor;
+    if (steps.begins) {
+        mouse.Begin(steps.samples.front());
+    }
     for (const InputSample& sample : steps.samples) {
         if (sample.pressure > 0) {
             const double y = sample.y - (style.useOffset ? OffsetPixels : 0);
@@ -49,6 +61,14 @@ void BoardInk::Take(const StrokeSteps& steps, const lumora::Params& style, std::
 }
 
 void BoardInk::DryWhatIsDue(std::uint32_t now) { board.Draw(stroke.Dry(now, DryAgeMs), colour); }
+
+void BoardInk::ChangeColour(const lumora::Colour& other)
+{
+    if (other != colour) {
+        board.Draw(stroke.DryRest(), colour); // what is written keeps its own
+        colour = other;
+    }
+}
 
 void BoardInk::Wipe()
 {

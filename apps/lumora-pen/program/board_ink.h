@@ -4,12 +4,13 @@
 
 #include "board/board_window.h"
 #include "ink/stroke_feed.h"
+#include "input/raw_mouse.h"
 
 namespace lumora_pen {
 
 class BoardInk {
 public:
-    explicit BoardInk(TakeInput take) : board(std::move(take)) {}
+    explicit BoardInk(TakeInput take);
 
     // Directly below the overlay. True when its ink is kept: without a bitmap the library has to keep it.
     bool Show(HWND overlay);
@@ -22,9 +23,13 @@ public:
     // What the library is about to lose.
     void DryWhatIsDue(std::uint32_t now);
 
+    // Of what is written from now on.
+    void ChangeColour(const lumora::Colour& other);
+
     void Wipe();
 
 private:
+    RawMouse mouse; // its way between two messages
     BoardWindow board;
     DryStroke stroke;
     lumora::Colour colour;

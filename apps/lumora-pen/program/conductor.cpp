@@ -215,7 +215,20 @@ void Conductor::Apply_()
 void Conductor::ApplyStyle_()
 {
     style = StyleFor(doing.mode, store.Get(), dpi, ink.Style());
+    board.ChangeColour(style.inkColor);
     ink.SetStyle(style);
+}
+
+void Conductor::TakeWaitingInput_()
+{
+    constexpr std::array<std::pair<UINT, UINT>, 3> Kinds = {
+        {{WM_INPUT, WM_INPUT}, {WM_MOUSEFIRST, WM_MOUSELAST}, {WM_POINTERUPDATE, WM_POINTERUP}}};
+    MSG message = {};
+    for (const auto& [first, last] : Kinds) {
+        while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE) != 0) {
+            DispatchMessageW(&message);
+        }
+    }
 }
 
 void Conductor::ChangeSettings_(const Settings& changed)

@@ -50,6 +50,7 @@ private:
     void TakeSteps_(const StrokeSteps& steps);
     void EndStroke_();
     void Wipe_();
+    void TakeWaitingInput_(); // the system hands keys out before what was written before them
 
     // What time brings: the hold key, resting pens, an edited file, a dialog.
     void Tick_();

@@ -40,6 +40,7 @@ void Conductor::OnTimer()
 void Conductor::OnKey(KeyCommand command)
 {
     Guard_([&] {
+        TakeWaitingInput_();
         Settings settings = store.Get();
         switch (command) {
         case KeyCommand::Board:

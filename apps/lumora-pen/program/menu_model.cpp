@@ -42,11 +42,9 @@ std::vector<MenuItem> Colours(const MenuState& state)
     std::vector<MenuItem> items;
     for (std::size_t i = 0; i < ColourCount; ++i) {
         const auto command = static_cast<KeyCommand>(static_cast<std::size_t>(KeyCommand::Colour1) + i);
-        items.push_back({WithKey('&' + std::to_string(i + 1), command, state),
-                         IdOf(MenuCommand::Colour, i),
-                         state.settings.colour == i,
-                         state.settings.palette[i],
-                         {}});
+        items.push_back({WithKey(std::string("&").append(std::to_string(i + 1)), command, state),
+                         IdOf(MenuCommand::Colour, i), state.settings.colour == i,
+                         state.settings.palette[i]});
     }
     return items;
 }
@@ -57,7 +55,7 @@ std::vector<MenuItem> Numbers(MenuCommand command, const std::array<int, Count>&
 {
     std::vector<MenuItem> items;
     for (std::size_t i = 0; i < Count; ++i) {
-        items.push_back({text(numbers[i]), IdOf(command, i), numbers[i] == current, {}, {}});
+        items.push_back({text(numbers[i]), IdOf(command, i), numbers[i] == current, {}});
     }
     return items;
 }
@@ -69,7 +67,6 @@ std::vector<MenuItem> BackEnds(const MenuState& state)
         items.push_back({std::string(BackEndTexts[i]),
                          IdOf(MenuCommand::BackEnd, i),
                          static_cast<std::size_t>(state.backEndInUse) == i,
-                         {},
                          {}});
     }
     return items;
@@ -90,30 +87,32 @@ std::vector<MenuItem> Lives(const MenuState& state)
 
 } // namespace
 
-std::vector<MenuItem> MenuOf(const MenuState& state)
+std::vector<MenuEntry> MenuOf(const MenuState& state)
 {
     const Settings& settings = state.settings;
     const auto pixels = [](int width) { return std::to_string(width) + " pixels"; };
-    const std::string mouse = "Trail with &mouse\thold " + TextOf(settings.hold);
+    const auto item = [](std::string text, MenuCommand command, bool isChecked = false) {
+        return MenuEntry{{std::move(text), IdOf(command), isChecked, {}}, {}};
+    };
+    const auto menu = [](std::string text, std::vector<MenuItem> choices) {
+        return MenuEntry{{std::move(text), 0, false, {}}, std::move(choices)};
+    };
     return {
-        {"Trail with &pen", IdOf(MenuCommand::TrailWithPen), settings.trailWithPen, {}, {}},
-        {mouse, IdOf(MenuCommand::TrailWithMouse), settings.trailWithMouse, {}, {}},
-        {WithKey("&Board", KeyCommand::Board, state),
-         IdOf(MenuCommand::Board),
-         state.mode == Mode::Board,
-         {},
-         {}},
+        item("Trail with &pen", MenuCommand::TrailWithPen, settings.trailWithPen),
+        item(std::string("Trail with &mouse\thold ").append(TextOf(settings.hold)),
+             MenuCommand::TrailWithMouse, settings.trailWithMouse),
+        item(WithKey("&Board", KeyCommand::Board, state), MenuCommand::Board, state.mode == Mode::Board),
         {},
-        {"&Colour", 0, false, {}, Colours(state)},
-        {"Wi&dth", 0, false, {}, Numbers(MenuCommand::Width, MenuWidths, settings.width, pixels)},
-        {"Ink &life", 0, false, {}, Lives(state)},
-        {"Bac&k-end", 0, false, {}, BackEnds(state)},
-        {"&Settings...", IdOf(MenuCommand::Settings), false, {}, {}},
-        {"&Keys and more (settings file)...", IdOf(MenuCommand::OpenSettingsFile), false, {}, {}},
+        menu("&Colour", Colours(state)),
+        menu("Wi&dth", Numbers(MenuCommand::Width, MenuWidths, settings.width, pixels)),
+        menu("Ink &life", Lives(state)),
+        menu("Bac&k-end", BackEnds(state)),
+        item("&Settings...", MenuCommand::Settings),
+        item("&Keys and more (settings file)...", MenuCommand::OpenSettingsFile),
         {},
-        {WithKey("&Wipe", KeyCommand::Wipe, state), IdOf(MenuCommand::Wipe), false, {}, {}},
-        {"&About...", IdOf(MenuCommand::About), false, {}, {}},
-        {"&Quit", IdOf(MenuCommand::Quit), false, {}, {}},
+        item(WithKey("&Wipe", KeyCommand::Wipe, state), MenuCommand::Wipe),
+        item("&About...", MenuCommand::About),
+        item("&Quit", MenuCommand::Quit),
     };
 }
 

@@ -34,7 +34,11 @@ struct MenuItem {
     unsigned id = 0;
     bool isChecked = false;
     std::optional<lumora::Colour> swatch;
-    std::vector<MenuItem> children;
+};
+
+struct MenuEntry {
+    MenuItem item;
+    std::vector<MenuItem> choices; // of its submenu, if it has one
 };
 
 struct MenuState {
@@ -44,7 +48,7 @@ struct MenuState {
     std::vector<NeededKey> takenKeys; // by other programs
 };
 
-std::vector<MenuItem> MenuOf(const MenuState& state);
+std::vector<MenuEntry> MenuOf(const MenuState& state);
 
 // What a chosen id stands for, and which of its choices.
 struct MenuChoice {

@@ -41,40 +41,46 @@ HBITMAP MakeSwatch(const lumora::Colour& colour)
     return bitmap;
 }
 
-HMENU MakeMenu(const std::vector<MenuItem>& items, Bitmaps& bitmaps) // NOLINT(misc-no-recursion): submenus
+void Append(HMENU menu, const MenuItem& item, HMENU submenu, Bitmaps& bitmaps)
 {
-    HMENU menu = CreatePopupMenu();
+    std::wstring text = ToWide(item.text);
+    MENUITEMINFOW info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | (submenu != nullptr ? MIIM_SUBMENU : 0U);
+    info.fType = text.empty() ? MFT_SEPARATOR : MFT_STRING;
+    info.fState = item.isChecked ? MFS_CHECKED : MFS_UNCHECKED;
+    info.wID = item.id;
+    info.hSubMenu = submenu;
+    if (!text.empty()) {
+        info.fMask |= MIIM_STRING;
+        info.dwTypeData = text.data();
+    }
+    if (item.swatch) {
+        info.fMask |= MIIM_BITMAP;
+        info.hbmpItem = bitmaps.emplace_back(MakeSwatch(*item.swatch)).Get();
+    }
+    InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
+}
+
+// Null when there is nothing to choose.
+HMENU MakeSubmenu(const std::vector<MenuItem>& items, Bitmaps& bitmaps)
+{
+    HMENU menu = items.empty() ? nullptr : CreatePopupMenu();
     for (const MenuItem& item : items) {
-        std::wstring text = ToWide(item.text);
-        MENUITEMINFOW info = {};
-        info.cbSize = sizeof info;
-        info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID;
-        info.fType = text.empty() ? MFT_SEPARATOR : MFT_STRING;
-        info.fState = item.isChecked ? MFS_CHECKED : MFS_UNCHECKED;
-        info.wID = item.id;
-        if (!text.empty()) {
-            info.fMask |= MIIM_STRING;
-            info.dwTypeData = text.data();
-        }
-        if (item.swatch) {
-            info.fMask |= MIIM_BITMAP;
-            info.hbmpItem = bitmaps.emplace_back(MakeSwatch(*item.swatch)).Get();
-        }
-        if (!item.children.empty()) {
-            info.fMask |= MIIM_SUBMENU;
-            info.hSubMenu = MakeMenu(item.children, bitmaps);
-        }
-        InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
+        Append(menu, item, nullptr, bitmaps);
     }
     return menu;
 }
 
 } // namespace
 
-unsigned ShowMenu(HWND owner, const std::vector<MenuItem>& items)
+unsigned ShowMenu(HWND owner, const std::vector<MenuEntry>& entries)
 {
     Bitmaps bitmaps;
-    HMENU menu = MakeMenu(items, bitmaps);
+    HMENU menu = CreatePopupMenu();
+    for (const MenuEntry& entry : entries) {
+        Append(menu, entry.item, MakeSubmenu(entry.choices, bitmaps), bitmaps);
+    }
     POINT place = {};
     GetCursorPos(&place);
     SetForegroundWindow(owner); // or a click beside the menu would not close it

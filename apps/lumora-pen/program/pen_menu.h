@@ -8,6 +8,6 @@
 namespace lumora_pen {
 
 // The id of what was chosen, or 0. Runs a loop of the system's meanwhile: the overlay paints, host code runs.
-unsigned ShowMenu(HWND owner, const std::vector<MenuItem>& items);
+unsigned ShowMenu(HWND owner, const std::vector<MenuEntry>& entries);
 
 } // namespace lumora_pen

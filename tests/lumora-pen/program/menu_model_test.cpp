@@ -14,16 +14,14 @@ using testing::HasSubstr;
 using testing::Not;
 
 // All items that can be chosen, also those of submenus.
-std::vector<MenuItem> Leaves(const std::vector<MenuItem>& items)
+std::vector<MenuItem> Leaves(const std::vector<MenuEntry>& entries)
 {
     std::vector<MenuItem> leaves;
-    for (const MenuItem& item : items) {
-        const auto below = Leaves(item.children);
-        leaves.insert(leaves.end(), below.begin(), below.end());
-        if (item.id != 0) {
-            leaves.push_back(item);
-        }
+    for (const MenuEntry& entry : entries) {
+        leaves.insert(leaves.end(), entry.choices.begin(), entry.choices.end());
+        leaves.push_back(entry.item);
     }
+    std::erase_if(leaves, [](const MenuItem& item) { return item.id == 0; });
     return leaves;
 }
 
@@ -56,7 +54,7 @@ TEST(PenMenu, EveryItemHasANumberOfItsOwn)
         EXPECT_TRUE(ids.insert(item.id).second) << item.text;
     }
     EXPECT_EQ(leaves.size(),
-              9 + ColourCount + MenuWidths.size() + MenuTrailLives.size() + MenuBoardLives.size() + 3);
+              8 + ColourCount + MenuWidths.size() + MenuTrailLives.size() + MenuBoardLives.size() + 3);
 }
 
 TEST(PenMenu, ChecksWhatIsOn)
