@@ -49,7 +49,6 @@ protected:
         return outcome;
     }
 
-private:
     static std::filesystem::path ProgramFolder()
     {
         std::wstring path(32768, L'\0');
@@ -57,6 +56,7 @@ private:
         return std::filesystem::path(path).parent_path();
     }
 
+private:
     static HANDLE OpenForChild(const std::filesystem::path& file)
     {
         SECURITY_ATTRIBUTES inherited = {sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};

@@ -3,18 +3,14 @@
 
 #include "input/input.h"
 
+#include "recording.h"
+
 #include <iosfwd>
-#include <memory>
 
 namespace lumora_pen {
 
 class SampleRecord {
 public:
-    SampleRecord();
-    ~SampleRecord();
-    SampleRecord(SampleRecord&&) noexcept;
-    SampleRecord& operator=(SampleRecord&&) noexcept;
-
     // Up to the most that a recording can hold; what comes later is left out.
     void Add(const std::vector<InputSample>& samples);
 
@@ -22,8 +18,9 @@ public:
     void Write(std::ostream& output) const;
 
 private:
-    struct Kept;
-    std::unique_ptr<Kept> kept;
+    lumora::replay::Recording recording;
+    std::uint32_t last = 0; // by the system's clock
+    double time = 0;        // of the last sample, from the first on
 };
 
 } // namespace lumora_pen
