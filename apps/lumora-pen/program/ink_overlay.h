@@ -13,7 +13,7 @@ namespace lumora_pen {
 class InkOverlay {
 public:
     // Throws lumora::Error when the library cannot be loaded, has other records, or makes no window.
-    InkOverlay(BackEndName backEnd, unsigned logLevel);
+    InkOverlay(BackEndName first, unsigned level);
 
     // Null while there is no overlay; then ink goes nowhere.
     HWND Window() const { return overlay ? overlay->Window() : nullptr; }

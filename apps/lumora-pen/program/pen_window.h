@@ -35,7 +35,7 @@ class PenWindow {
 public:
     // Throws lumora::Error when the system makes none. Its title names the user: other instances find it by
     // that.
-    explicit PenWindow(PenWindowEvents& events);
+    explicit PenWindow(PenWindowEvents& receiver);
     ~PenWindow();
     PenWindow(const PenWindow&) = delete;
     PenWindow& operator=(const PenWindow&) = delete;
@@ -43,7 +43,7 @@ public:
     HWND Handle() const { return window; }
 
 private:
-    static LRESULT CALLBACK Procedure_(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK Procedure_(HWND itself, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Take_(HWND itself, UINT message, WPARAM wParam, LPARAM lParam);
     bool TakeOfTheSystem_(UINT message, WPARAM wParam);
 
