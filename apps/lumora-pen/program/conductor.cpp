@@ -79,7 +79,10 @@ Conductor::Conductor(const Options& options, SettingsStore& settingsStore)
     TakeOptions_(options);
     Apply_();
     ApplyStyle_();
+    window.Listen(true);
 }
+
+Conductor::~Conductor() { window.Listen(false); }
 
 void Conductor::Run()
 {
@@ -243,6 +246,17 @@ void Conductor::ChangeMode_(Mode mode)
     if (mode == doing.mode) {
         return;
     }
+    EnterMode_(mode);
+    if (mode == Mode::Board && !keys.Has(KeyCommand::Board) && !keys.Has(KeyCommand::EndBoard)) {
+        EnterMode_(Mode::Trail); // the mouse would reach nothing, not even the menu
+        Say_("The Board has no key by which it could be ended: choose another one in the menu under Keys.");
+    } else if (mode == Mode::Board && !board.KeepsInk()) {
+        Say_("There is no memory for the Board's ink: it goes by itself.");
+    }
+}
+
+void Conductor::EnterMode_(Mode mode)
+{
     EndStroke_();
     if (doing.mode == Mode::Board) {
         Wipe_(); // its ink stays as long as it does
@@ -250,9 +264,6 @@ void Conductor::ChangeMode_(Mode mode)
     doing = {mode, false};
     Apply_();
     ApplyStyle_();
-    if (mode == Mode::Board && !board.KeepsInk()) {
-        Say_("There is no memory for the Board's ink: it goes by itself.");
-    }
     icon.SetTip(mode == Mode::Board ? "Lumora Pen: Board" : "Lumora Pen");
 }
 

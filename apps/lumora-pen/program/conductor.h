@@ -22,6 +22,9 @@ class Conductor final : PenWindowEvents {
 public:
     // Throws lumora::Error when nothing can be written on.
     Conductor(const Options& options, SettingsStore& store);
+    ~Conductor();
+    Conductor(const Conductor&) = delete;
+    Conductor& operator=(const Conductor&) = delete;
 
     // Says what a person has to know at the start, in one go.
     void Greet(const std::vector<std::string>& complaints);
@@ -63,6 +66,7 @@ private:
     void ApplyStyle_();
     void ChangeSettings_(const Settings& changed);
     void ChangeMode_(Mode mode);
+    void EnterMode_(Mode mode);
     void UseBackEnd_(BackEndName backEnd);
     void TakeOptions_(const Options& options);
     void StartRecord_(const std::string& file);

@@ -17,6 +17,12 @@ bool Repeats(KeyCommand command) { return command == KeyCommand::Wider || comman
 
 } // namespace
 
+bool GlobalKeys::Has(KeyCommand command) const
+{
+    return std::any_of(registered.begin(), registered.end(),
+                       [command](const NeededKey& key) { return key.command == command; });
+}
+
 GlobalKeys::~GlobalKeys() { Set({}); }
 
 bool GlobalKeys::Set(const std::vector<NeededKey>& needed)

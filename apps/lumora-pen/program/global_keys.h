@@ -21,6 +21,8 @@ public:
     // Those of the last Set that another program has.
     const std::vector<NeededKey>& Taken() const { return taken; }
 
+    bool Has(KeyCommand command) const;
+
 private:
     HWND receiver;
     std::vector<NeededKey> registered;

@@ -11,17 +11,20 @@ constexpr int Attempts = 50;
 constexpr DWORD BetweenAttemptsMs = 100;
 constexpr UINT LongestAnswerMs = 5000;
 
-HWND FindRunning()
+// Its answer; 0 when it does not listen.
+LRESULT Hand(HWND running, std::string& bytes)
 {
-    const std::wstring title = PenWindowTitle();
-    HWND running = nullptr;
-    for (int attempt = 0; running == nullptr && attempt < Attempts; ++attempt) {
-        if (attempt > 0) {
-            Sleep(BetweenAttemptsMs);
-        }
-        running = FindWindowW(PenWindowClass, title.c_str());
-    }
-    return running;
+    DWORD process = 0;
+    GetWindowThreadProcessId(running, &process);
+    AllowSetForegroundWindow(process); // it may show something
+    COPYDATASTRUCT data = {};
+    data.dwData = ArgumentsMark;
+    data.cbData = static_cast<DWORD>(bytes.size());
+    data.lpData = bytes.data();
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(running, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_ABORTIFHUNG,
+                        LongestAnswerMs, &answer);
+    return static_cast<LRESULT>(answer);
 }
 
 } // namespace
@@ -42,22 +45,17 @@ InstanceGuard::~InstanceGuard()
 
 bool HandOver(const std::vector<std::string>& arguments)
 {
-    HWND running = FindRunning();
-    if (running == nullptr) {
-        return false;
-    }
+    const std::wstring title = PenWindowTitle();
     std::string bytes = PackArguments(arguments);
-    DWORD process = 0;
-    GetWindowThreadProcessId(running, &process);
-    AllowSetForegroundWindow(process); // it may show something
-    COPYDATASTRUCT data = {};
-    data.dwData = ArgumentsMark;
-    data.cbData = static_cast<DWORD>(bytes.size());
-    data.lpData = bytes.data();
-    DWORD_PTR taken = 0;
-    return SendMessageTimeoutW(running, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_ABORTIFHUNG,
-                               LongestAnswerMs, &taken) != 0 &&
-           taken == TRUE;
+    LRESULT answer = 0;
+    for (int attempt = 0; answer == 0 && attempt < Attempts; ++attempt) {
+        if (attempt > 0) {
+            Sleep(BetweenAttemptsMs);
+        }
+        HWND running = FindWindowW(PenWindowClass, title.c_str());
+        answer = running != nullptr ? Hand(running, bytes) : 0;
+    }
+    return answer == ArgumentsTaken;
 }
 
 } // namespace lumora_pen

@@ -61,8 +61,8 @@ LRESULT CALLBACK PenWindow::Procedure_(HWND itself, UINT message, WPARAM wParam,
         SetWindowLongPtrW(itself, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
     }
     auto* const pen = reinterpret_cast<PenWindow*>(GetWindowLongPtrW(itself, GWLP_USERDATA));
-    return pen != nullptr ? pen->Take_(itself, message, wParam, lParam)
-                          : DefWindowProcW(itself, message, wParam, lParam);
+    return pen != nullptr && pen->listens ? pen->Take_(itself, message, wParam, lParam)
+                                          : DefWindowProcW(itself, message, wParam, lParam);
 }
 
 LRESULT PenWindow::Take_(HWND itself, UINT message, WPARAM wParam, LPARAM lParam)
@@ -85,9 +85,11 @@ LRESULT PenWindow::Take_(HWND itself, UINT message, WPARAM wParam, LPARAM lParam
     case WM_COPYDATA: {
         const auto* const data = reinterpret_cast<const COPYDATASTRUCT*>(lParam);
         const bool isOurs = data != nullptr && data->dwData == ArgumentsMark;
-        return isOurs && events.OnHandedArguments({static_cast<const char*>(data->lpData), data->cbData})
-                   ? TRUE
-                   : FALSE;
+        if (!isOurs) {
+            return 0;
+        }
+        const bool isTaken = events.OnHandedArguments({static_cast<const char*>(data->lpData), data->cbData});
+        return isTaken ? ArgumentsTaken : ArgumentsRefused;
     }
     case WM_CLOSE:
         events.OnClose();

@@ -20,7 +20,7 @@ public:
     virtual void OnDisplayChanged() = 0;
     virtual void OnInterrupted() = 0; // sleep, a locked or another session: nobody writes any longer
     virtual void OnSessionEnds() = 0; // the last moment to keep anything
-    virtual bool OnHandedArguments(std::string_view bytes) = 0;
+    virtual bool OnHandedArguments(std::string_view bytes) = 0; // false: refused
     virtual void OnClose() = 0;
     virtual void OnTimer() = 0; // while a loop of the system's runs: a menu, a box
 
@@ -30,6 +30,8 @@ protected:
 
 inline constexpr UINT IconMessage = WM_APP + 1;
 inline constexpr ULONG_PTR ArgumentsMark = 0x4E45504C; // of messages between instances
+inline constexpr LRESULT ArgumentsTaken = 1;           // their answers; 0 comes from one that does not listen
+inline constexpr LRESULT ArgumentsRefused = 2;
 
 class PenWindow {
 public:
@@ -42,6 +44,9 @@ public:
 
     HWND Handle() const { return window; }
 
+    // Nothing is told before and after: others send while the receiver is being made, and while it goes.
+    void Listen(bool isWanted) { listens = isWanted; }
+
 private:
     static LRESULT CALLBACK Procedure_(HWND itself, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Take_(HWND itself, UINT message, WPARAM wParam, LPARAM lParam);
@@ -50,6 +55,7 @@ private:
     PenWindowEvents& events;
     UINT shellRestarted;
     HWND window = nullptr;
+    bool listens = false;
 };
 
 // By which one instance finds another one of the same person.

@@ -61,6 +61,8 @@ TEST(GlobalKeys, NamesThoseThatAnotherOneHas)
     EXPECT_TRUE(keys.Set({Board, Wipe}));
     EXPECT_THAT(keys.Taken(), ElementsAre(Board));
     EXPECT_FALSE(IsFree(Wipe)) << "the rest goes on";
+    EXPECT_FALSE(keys.Has(KeyCommand::Board));
+    EXPECT_TRUE(keys.Has(KeyCommand::Wipe));
     EXPECT_FALSE(keys.Set({Board, Wipe})) << "told already";
     UnregisterHotKey(another.handle, Other);
     EXPECT_TRUE(keys.Set({Board, Wipe})) << "it is free by now";

@@ -38,6 +38,8 @@ public:
 
 class PenWindowTest : public testing::Test {
 protected:
+    PenWindowTest() { window.Listen(true); }
+
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
     {
         return SendMessageW(window.Handle(), message, wParam, lParam);
@@ -98,10 +100,19 @@ TEST_F(PenWindowTest, EndOfTheSessionIsHeardOnlyWhenItComes)
 
 TEST_F(PenWindowTest, ArgumentsAreAnsweredAndOtherPeoplesBytesAreNot)
 {
-    EXPECT_TRUE(SendBytes(ArgumentsMark, "yes"));
-    EXPECT_FALSE(SendBytes(ArgumentsMark, "no"));
-    EXPECT_FALSE(SendBytes(ArgumentsMark + 1, "yes"));
+    EXPECT_EQ(SendBytes(ArgumentsMark, "yes"), ArgumentsTaken);
+    EXPECT_EQ(SendBytes(ArgumentsMark, "no"), ArgumentsRefused);
+    EXPECT_EQ(SendBytes(ArgumentsMark + 1, "yes"), 0);
     EXPECT_THAT(events.heard, ElementsAre("arguments yes", "arguments no"));
+}
+
+TEST_F(PenWindowTest, NothingIsToldWhileNobodyListens)
+{
+    window.Listen(false);
+    EXPECT_EQ(SendBytes(ArgumentsMark, "yes"), 0);
+    Send(WM_HOTKEY, 0);
+    Send(WM_DISPLAYCHANGE);
+    EXPECT_THAT(events.heard, IsEmpty());
 }
 
 TEST_F(PenWindowTest, ClosingIsLeftToTheProgram)
