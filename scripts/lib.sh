@@ -75,19 +75,28 @@ trap 'end_step; exit 130' INT
 trap 'end_step; exit 143' TERM
 trap 'end_step; exit 129' HUP
 
-# Shows that a step lives: its seconds and last line on a terminal, a line every 20 seconds elsewhere.
+# Shows that a step lives: its seconds and last line on a terminal, a line every minute elsewhere.
 show_progress() {
     local seconds=$1 log=$2 width=$((${COLUMNS:-$(tput cols 2>/dev/null || echo 80)} - 12))
     if [ -t 1 ]; then
         printf '\r\033[K  %4d s  %s' "$seconds" "$(tail -c 400 "$log" | tr '\r' '\n' | tr -cd '[:print:]\n' |
             grep -v '^ *$' | tail -n 1 | cut -c "1-$width")"
-    elif [ $((seconds % 20)) -eq 0 ]; then
+    elif [ $((seconds % 60)) -eq 0 ]; then
         say "  ... $seconds s"
     fi
 }
 
+# show_failure LOG: what failed tests said, and the end of the log, which names them all.
+show_failure() {
+    {
+        grep -E -A 40 '\*\*\*(Failed|Timeout|Exception|Not Run)' "$1" | head -n 400 || true
+        echo ...
+        tail -n 40 "$1"
+    } | sed 's/^/  | /'
+}
+
 # run_step NAME DESCRIPTION COMMAND...: runs the command with its output in build/logs/NAME.log. A failed step names
-# itself and its log, shows the end of it and ends the script.
+# itself and its log, shows what failed and ends the script.
 run_step() {
     local name=$1 description=$2 log=$logs/$1.log begin=$SECONDS shown=0 seconds status=0
     shift 2
@@ -109,8 +118,8 @@ run_step() {
     stepPid=''
     if [ -t 1 ]; then printf '\r\033[K'; fi
     if [ "$status" -ne 0 ]; then
-        say "FAILED: step $name, status $status. The end of its log, ${log#"$root"/}:"
-        tail -n 40 "$log" | sed 's/^/  | /'
+        say "FAILED: step $name, status $status. From its log, ${log#"$root"/}:"
+        show_failure "$log"
         exit "$status"
     fi
     say "  done in $((SECONDS - begin)) s"

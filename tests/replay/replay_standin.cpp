@@ -1,6 +1,7 @@
 // lumora-replay-standin: lumora-replay with a composition engine of its own, for systems that have none.
 #include "console.h"
 #include "run_replay.h"
+#include "text/wide_text.h"
 
 #include "support/composition/composition_stand_in.h"
 
@@ -19,5 +20,5 @@ std::shared_ptr<void> PutStandInUnder(HMODULE library)
 
 int wmain(int argc, wchar_t** argv)
 {
-    return lumora::replay::RunReplay(lumora::replay::Utf8Arguments(argc, argv), PutStandInUnder);
+    return lumora::replay::RunReplay(lumora::text::Utf8Arguments(argc, argv), PutStandInUnder);
 }

@@ -7,6 +7,7 @@
 #include "read_recording.h"
 #include "save_recording.h"
 #include "selftest.h"
+#include "text/file_name.h"
 
 namespace lumora::replay {
 
@@ -19,7 +20,7 @@ constexpr int ExitStopped = 130;
 
 std::filesystem::path LibraryOf(const Options& options)
 {
-    return options.library.empty() ? LibraryBesideProgram() : PathOf(options.library);
+    return options.library.empty() ? LibraryBesideProgram() : text::PathOf(options.library);
 }
 
 int Play(const Options& options, const Recording& recording, const MakeUnderlay& makeUnderlay)
@@ -37,7 +38,7 @@ int Play(const Options& options, const Recording& recording, const MakeUnderlay&
         result = Player(session, stop, timeline, options.screenshots, options.switches).Play();
     }
     for (const TakenScreenshot& taken : result.screenshots) {
-        taken.picture.SaveAsPng(PathOf(taken.file));
+        taken.picture.SaveAsPng(text::PathOf(taken.file));
         PrintLine(Channel::Output, "saved " + taken.file);
     }
     PrintLine(Channel::Output, Describe(Summarise(result.latenciesMs)));
@@ -47,7 +48,7 @@ int Play(const Options& options, const Recording& recording, const MakeUnderlay&
 int Save(const Options& options, const Recording& recording)
 {
     const RecordingFormat format = FormatOf(options.save).value_or(RecordingFormat::Svc);
-    if (const auto reason = SaveRecording(recording, PathOf(options.save), format, options.overwrite)) {
+    if (const auto reason = SaveRecording(recording, text::PathOf(options.save), format, options.overwrite)) {
         PrintLine(Channel::Error, "lumora-replay: " + options.save + " cannot be saved: " + *reason);
         return ExitFailed;
     }
@@ -83,11 +84,11 @@ int RunReplay(const std::vector<std::string>& arguments, const MakeUnderlay& mak
     }
     if (!options.selftest.empty()) {
         return OnTheScreen([&] {
-            Selftest(LibraryOf(options), PathOf(options.selftest), makeUnderlay);
+            Selftest(LibraryOf(options), text::PathOf(options.selftest), makeUnderlay);
             return ExitDone;
         });
     }
-    const RecordingResult read = ReadRecording(PathOf(options.recording), options.timeUnit);
+    const RecordingResult read = ReadRecording(text::PathOf(options.recording), options.timeUnit);
     if (const auto* error = std::get_if<RecordingError>(&read)) {
         PrintLine(Channel::Error, DescribeError(options.recording, *error));
         return ExitWrongInput;

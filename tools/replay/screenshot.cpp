@@ -1,7 +1,7 @@
 // Copies the screen into a bitmap and encodes it with GDI+.
 #include "screenshot.h"
-#include "console.h"
 #include "replay_error.h"
+#include "text/wide_text.h"
 
 #include <algorithm>
 
@@ -94,7 +94,7 @@ void Screenshot::SaveAsPng(const std::filesystem::path& file) const
     Gdiplus::Bitmap picture(width, height, width * BytesPerPixel, PixelFormat32bppRGB,
                             static_cast<BYTE*>(bits));
     if (picture.Save(file.c_str(), &PngEncoder, nullptr) != Gdiplus::Ok) {
-        throw ReplayError("the screenshot " + ToUtf8(file.native()) + " cannot be saved");
+        throw ReplayError("the screenshot " + text::ToUtf8(file.native()) + " cannot be saved");
     }
 }
 

@@ -7,6 +7,7 @@
 #include "replay_error.h"
 #include "selftest_report.h"
 #include "system_facts.h"
+#include "text/wide_text.h"
 
 #include "lumora/lumora.hpp"
 
@@ -202,7 +203,7 @@ void Selftest(const std::filesystem::path& libraryFile, const std::filesystem::p
     const Library library = LoadLibraryFile(libraryFile); // first: without one an old report stays
     std::ofstream report(reportFile, std::ios::binary);
     if (!report) {
-        throw ReplayError("the report cannot be written to " + ToUtf8(reportFile.native()));
+        throw ReplayError("the report cannot be written to " + text::ToUtf8(reportFile.native()));
     }
     const std::shared_ptr<void> underlay = makeUnderlay ? makeUnderlay(library.module) : nullptr;
     std::vector<BackEndFindings> findings;
@@ -215,7 +216,7 @@ void Selftest(const std::filesystem::path& libraryFile, const std::filesystem::p
     const std::string text = SelftestReport(FactsOfThisSystem(), findings);
     report << text;
     if (!report.flush()) {
-        throw ReplayError("the report cannot be written to " + ToUtf8(reportFile.native()));
+        throw ReplayError("the report cannot be written to " + text::ToUtf8(reportFile.native()));
     }
     PrintLine(Channel::Output, text);
 }

@@ -1,6 +1,6 @@
 // What of this machine matters to ink.
 #include "system_facts.h"
-#include "console.h"
+#include "text/wide_text.h"
 
 #include "lumora/version.h"
 
@@ -53,7 +53,7 @@ std::string GraphicsAdapter()
 {
     DISPLAY_DEVICEW device = {};
     device.cb = sizeof(device);
-    return EnumDisplayDevicesW(nullptr, 0, &device, 0) != 0 ? ToUtf8(device.DeviceString) : "unknown";
+    return EnumDisplayDevicesW(nullptr, 0, &device, 0) != 0 ? text::ToUtf8(device.DeviceString) : "unknown";
 }
 
 std::string Size(int widthMetric, int heightMetric)

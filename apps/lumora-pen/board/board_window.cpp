@@ -3,6 +3,7 @@
 
 #include "board/press_and_hold.h"
 #include "ink/cross_cursor.h"
+#include "input/virtual_screen.h"
 
 #include <utility>
 
@@ -16,14 +17,6 @@ constexpr wchar_t Name[] = L"Lumora Pen Board";
 constexpr DWORD Style = WS_POPUP;
 constexpr DWORD ExtendedStyle =
     WS_EX_LAYERED | WS_EX_TOPMOST | WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW; // the keys stay where they were
-
-PixelRectangle VirtualScreen()
-{
-    const int left = GetSystemMetrics(SM_XVIRTUALSCREEN); // negative where a monitor is left of the first
-    const int top = GetSystemMetrics(SM_YVIRTUALSCREEN);
-    return {left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
-            top + GetSystemMetrics(SM_CYVIRTUALSCREEN)};
-}
 
 HCURSOR MakeCross()
 {

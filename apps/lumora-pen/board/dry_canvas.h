@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ink/dry_stroke.h"
-#include "ink/pixel_rectangle.h"
+#include "input/pixel_rectangle.h"
 
 #include "lumora/params.hpp"
 

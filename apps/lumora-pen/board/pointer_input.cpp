@@ -2,6 +2,7 @@
 #include "board/pointer_input.h"
 
 #include "board/pointer_reading.h"
+#include "input/made_by_pointer.h"
 
 #include <utility>
 
@@ -10,14 +11,6 @@
 namespace lumora_pen {
 
 namespace {
-
-// The system makes mouse messages of pens and fingers for programs that know no others, and marks them.
-bool IsMadeOfPointer(LPARAM extra)
-{
-    constexpr ULONG_PTR Mark = 0xFF515700;
-    constexpr ULONG_PTR MarkBits = 0xFFFFFF00;
-    return (static_cast<ULONG_PTR>(extra) & MarkBits) == Mark;
-}
 
 InputSample MouseSample(HWND window, LPARAM lParam)
 {
@@ -93,7 +86,7 @@ void PointerInput::TakeRead_(UINT message, Source who, std::vector<InputSample> 
 
 std::optional<LRESULT> PointerInput::TakeMouse_(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (IsMadeOfPointer(GetMessageExtraInfo())) {
+    if (IsMadeByPointer(static_cast<std::uint64_t>(GetMessageExtraInfo()))) {
         return 0;
     }
     const InputSample sample = MouseSample(window, lParam);

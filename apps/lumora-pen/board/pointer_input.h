@@ -1,8 +1,8 @@
 // The Board's messages of pen, finger and mouse, and the strokes that become of them.
 #pragma once
 
-#include "ink/one_writer.h"
 #include "input/input.h"
+#include "input/one_writer.h"
 
 #include <functional>
 #include <optional>

@@ -1,7 +1,7 @@
 // What the system tells of a pen or a finger.
 #include "board/pointer_reading.h"
 
-#include "ink/pointer_report.h"
+#include "input/pointer_report.h"
 
 namespace lumora_pen {
 

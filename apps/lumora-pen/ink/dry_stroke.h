@@ -1,7 +1,7 @@
 // How a stroke dries: its old end passes from the library, whose ink goes, to the Board's own bitmap.
 #pragma once
 
-#include "ink/pixel_rectangle.h"
+#include "input/pixel_rectangle.h"
 
 #include <cstddef>
 #include <cstdint>

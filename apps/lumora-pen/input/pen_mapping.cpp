@@ -2,6 +2,7 @@
 #include "input/pen_mapping.h"
 
 #include "input/raw_device.h"
+#include "input/virtual_screen.h"
 
 #include <algorithm>
 #include <optional>
@@ -71,14 +72,6 @@ Turn TurnOf(DWORD orientation)
     }
 }
 
-ScreenRectangle WholeScreen()
-{
-    const int left = GetSystemMetrics(SM_XVIRTUALSCREEN);
-    const int top = GetSystemMetrics(SM_YVIRTUALSCREEN);
-    return {left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
-            top + GetSystemMetrics(SM_CYVIRTUALSCREEN)};
-}
-
 std::wstring ProductOf(const POINTER_DEVICE_INFO& info)
 {
     const auto* begin = std::begin(info.productString);
@@ -92,17 +85,17 @@ PenMapping MapPen(HANDLE device, const std::wstring& name)
     const PointerDevices devices = ReadPointerDevices();
     const POINTER_DEVICE_INFO* info = FindDevice(devices, device, name);
     if (info == nullptr) {
-        return {{WholeScreen(), Turn::None}, false, {}};
+        return {{VirtualScreen(), Turn::None}, false, {}};
     }
     RECT surface = {};
     RECT display = {};
     if (GetPointerDeviceRects(info->device, &surface, &display)) {
-        const ScreenRectangle place = {display.left, display.top, display.right, display.bottom};
-        if (!IsEmpty(place)) {
+        const PixelRectangle place = {display.left, display.top, display.right, display.bottom};
+        if (!place.IsEmpty()) {
             return {{place, TurnOf(info->displayOrientation)}, true, ProductOf(*info)};
         }
     }
-    return {{WholeScreen(), Turn::None}, false, ProductOf(*info)};
+    return {{VirtualScreen(), Turn::None}, false, ProductOf(*info)};
 }
 
 } // namespace lumora_pen

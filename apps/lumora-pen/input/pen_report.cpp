@@ -59,11 +59,6 @@ double Between(std::int32_t first, std::int32_t end, double share)
 
 } // namespace
 
-bool IsEmpty(const ScreenRectangle& rectangle)
-{
-    return rectangle.right <= rectangle.left || rectangle.bottom <= rectangle.top;
-}
-
 bool IsUsable(const LogicalRange& range) { return range.least < range.most; }
 
 LogicalRange RangeOf(std::int32_t least, std::int32_t most, unsigned bitSize)
@@ -90,7 +85,7 @@ std::optional<InputSample> PenReports::Take(const PenReport& report, const PenRa
     if (!report.isInRange && !report.touches) {
         return Leave(time);
     }
-    if (!IsUsable(ranges.x) || !IsUsable(ranges.y) || IsEmpty(place.display)) {
+    if (!IsUsable(ranges.x) || !IsUsable(ranges.y) || place.display.IsEmpty()) {
         return std::nullopt;
     }
     InputSample sample = last.value_or(InputSample{});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "input/input.h"
+#include "input/pixel_rectangle.h"
 
 #include <cstdint>
 #include <optional>
@@ -38,21 +39,12 @@ struct PenRanges {
     LogicalRange pressure; // not usable: a touch is a touch
 };
 
-struct ScreenRectangle {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t right = 0; // the first pixel outside
-    std::int32_t bottom = 0;
-};
-
-bool IsEmpty(const ScreenRectangle& rectangle);
-
 // How the display is turned against its digitizer, whose own axes stay: by so much is a report's place turned
 // clockwise to stand upright.
 enum class Turn { None, Quarter, Half, ThreeQuarters };
 
 struct PenPlace {
-    ScreenRectangle display;
+    PixelRectangle display;
     Turn turn = Turn::None;
 };
 

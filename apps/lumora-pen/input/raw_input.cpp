@@ -2,25 +2,13 @@
 #include "input/raw_input.h"
 
 #include "input/hid_usages.h"
+#include "input/made_by_pointer.h"
 #include "input/raw_device.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace lumora_pen {
-
-namespace {
-
-// By this the system marks what a pen or a finger has made the mouse do (Microsoft's documentation of
-// tablets: "Distinguishing Pen Input from Mouse and Touch").
-bool IsMadeByPointer(const RAWMOUSE& report)
-{
-    constexpr ULONG Signature = 0xFF515700;
-    constexpr ULONG SignatureMask = 0xFFFFFF00;
-    return (report.ulExtraInformation & SignatureMask) == Signature;
-}
-
-} // namespace
 
 RawInput::RawInput(HWND window, TakeInput take, std::function<bool()> isHeld)
     : window(window), take(std::move(take)), mouse(std::move(isHeld))
@@ -143,7 +131,7 @@ std::vector<std::wstring> RawInput::UnmappedPens() const
 void RawInput::TakeMouse_(const RAWMOUSE& report)
 {
     // A pen that writes already must not write twice; one that cannot be read may do it as a mouse.
-    if (IsMadeByPointer(report) && IsPenInRange_()) {
+    if (IsMadeByPointer(report.ulExtraInformation) && IsPenInRange_()) {
         mouse.Rest(GetTickCount(), batch.samples);
         HandOut_(Mouse);
         return;

@@ -6,6 +6,7 @@
 #include <timeapi.h>
 
 #include <cmath>
+#include <utility>
 
 namespace lumora_pen {
 
@@ -68,7 +69,7 @@ BackEndName BackEndHere(BackEndName wanted)
 
 Conductor::Conductor(const Options& options, SettingsStore& settingsStore)
     : store(settingsStore), window(*this), icon(window.Handle(), IconMessage, ProgramIcon()),
-      ink(BackEndHere(options.backEnd.value_or(store.Get().backEnd)), options.logLevel),
+      ink(BackEndHere(options.backEnd.value_or(store.Get().backEnd)), options.logLevel.value_or(0)),
       keys(window.Handle()), raw(
                                  window.Handle(), [this](const InputBatch& batch) { TakeBatch_(batch); },
                                  [this] { return doing.holds; }),
@@ -102,9 +103,14 @@ void Conductor::Run()
         OnTimer();
     }
     EndStroke_();
-    WriteRecord_();
-    if (const auto failure = store.Keep()) {
-        Say_(*failure);
+    LookAtDialog_();
+    std::string failures;
+    for (const auto& failure : {WriteRecord_(), store.Keep()}) {
+        failures += failure ? *failure + '\n' : "";
+    }
+    if (!failures.empty()) {
+        failures.pop_back();
+        throw lumora::Error(failures); // a balloon would go with the icon
     }
 }
 
@@ -118,6 +124,7 @@ void Conductor::TakeBatch_(const InputBatch& batch)
                 KeepKeyboardLayout();
             }
             if (const int here = DpiAt(steps.samples.front()); here != dpi) {
+                LookAtDialog_();
                 dpi = here;
                 ApplyStyle_();
             }
@@ -172,8 +179,20 @@ void Conductor::Tick_()
         lastLook = now;
         LookAtDialog_();
         LookAtFile_();
+        LookAfterOverlay_();
+    }
+}
+
+void Conductor::LookAfterOverlay_()
+{
+    try {
         if (ink.LookAfter(timeGetTime())) {
+            hasToldNoOverlay = false;
             Apply_();
+        }
+    } catch (const lumora::Error& failure) {
+        if (!std::exchange(hasToldNoOverlay, true)) { // it is tried again every second
+            Say_(failure.what());
         }
     }
 }
@@ -187,12 +206,21 @@ void Conductor::LookAtHoldKey_()
     if (holds == doing.holds) {
         return;
     }
+    if (!holds) {
+        raw.LookAtMouse(); // the way up to here was written, whenever this is noticed
+    }
     doing.holds = holds;
     raw.LookAtMouse();
     if (!holds) {
         EndStroke_();
     }
     Apply_();
+}
+
+Settings Conductor::CurrentSettings_()
+{
+    LookAtDialog_();
+    return store.Get();
 }
 
 void Conductor::Apply_()
@@ -258,6 +286,7 @@ void Conductor::ChangeMode_(Mode mode)
 void Conductor::EnterMode_(Mode mode)
 {
     EndStroke_();
+    LookAtDialog_(); // what it shows is of the mode that ends
     if (doing.mode == Mode::Board) {
         Wipe_(); // its ink stays as long as it does
     }
@@ -267,12 +296,13 @@ void Conductor::EnterMode_(Mode mode)
     icon.SetTip(mode == Mode::Board ? "Lumora Pen: Board" : "Lumora Pen");
 }
 
-void Conductor::UseBackEnd_(BackEndName backEnd)
+void Conductor::UseOverlay_(BackEndName backEnd, unsigned logLevel)
 {
     EndStroke_();
+    LookAtDialog_(); // it goes with the overlay
     const BackEndName here = BackEndHere(backEnd);
-    if (here != ink.BackEnd()) {
-        ink.Use(here);
+    if (here != ink.BackEnd() || logLevel != ink.LogLevel()) {
+        ink.Use(here, logLevel);
         Apply_(); // the Board lies below the new window
         ApplyStyle_();
     }
@@ -283,8 +313,7 @@ void Conductor::TellReplacement_(BackEndName wanted)
 {
     if (ink.BackEnd() != wanted) {
         Say_("This system has no composition engine, so Lumora Pen draws by GDI. To keep that, choose GDI in "
-             "the menu "
-             "under Back-end.");
+             "the menu under Back-end.");
     }
 }
 

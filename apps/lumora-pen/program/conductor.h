@@ -29,7 +29,7 @@ public:
     // Says what a person has to know at the start, in one go.
     void Greet(const std::vector<std::string>& complaints);
 
-    // Until a person ends it.
+    // Until a person ends it. Throws lumora::Error when something could not be kept.
     void Run();
 
 private:
@@ -60,20 +60,23 @@ private:
     void LookAtHoldKey_();
     void LookAtDialog_();
     void LookAtFile_();
+    void LookAfterOverlay_();
 
     // Changes.
+    Settings CurrentSettings_(); // with what the library's dialog says by now
     void Apply_();
     void ApplyStyle_();
     void ChangeSettings_(const Settings& changed);
     void ChangeMode_(Mode mode);
     void EnterMode_(Mode mode);
-    void UseBackEnd_(BackEndName backEnd);
+    void UseOverlay_(BackEndName backEnd, unsigned logLevel);
     void TakeOptions_(const Options& options);
     void StartRecord_(const std::string& file);
-    void WriteRecord_();
+    std::optional<std::string> WriteRecord_(); // a reason when that fails
 
     // What a person sees.
     void ShowMenu_();
+    unsigned AskMenu_(); // the id of what was chosen, or 0
     void Choose_(const MenuChoice& choice);
     void ShowAbout_();
     void OpenSettingsFile_();
@@ -98,6 +101,7 @@ private:
     std::optional<std::string> greeting{std::in_place}; // what is said before Greet
     bool isAsking = false;                              // a menu or a box is open
     bool hasDialog = false;                             // the library's is open
+    bool hasToldNoOverlay = false;
     bool isDone = false;
     std::uint32_t lastTick = 0;
     std::uint32_t lastSample = 0;

@@ -4,7 +4,9 @@
 #include "program/conductor.h"
 #include "program/file_version.h"
 #include "program/pen_menu.h"
-#include "program/wide_text.h"
+#include "program/scope_flag.h"
+#include "text/file_name.h"
+#include "text/wide_text.h"
 
 #include <shellapi.h>
 
@@ -41,7 +43,7 @@ void Conductor::OnKey(KeyCommand command)
 {
     Guard_([&] {
         TakeWaitingInput_();
-        Settings settings = store.Get();
+        Settings settings = CurrentSettings_();
         switch (command) {
         case KeyCommand::Board:
             return ChangeMode_(doing.mode == Mode::Board ? Mode::Trail : Mode::Board);
@@ -84,8 +86,9 @@ void Conductor::OnInterrupted() { EndStroke_(); }
 void Conductor::OnSessionEnds()
 {
     EndStroke_();
-    Guard_([&] {
+    Guard_([&] { // what fails now nobody would read
         WriteRecord_();
+        LookAtDialog_();
         store.Keep();
     });
 }
@@ -107,15 +110,14 @@ bool Conductor::OnHandedArguments(std::string_view bytes)
             return;
         }
         if (!reading.options.settingsFile.empty() &&
-            std::filesystem::path(ToWide(reading.options.settingsFile)) != store.File()) {
+            lumora::text::PathOf(reading.options.settingsFile) != store.File()) {
             return; // one person has one set of them
         }
         if (reading.options.quit) {
             OnClose();
         } else {
-            if (reading.options.backEnd) {
-                UseBackEnd_(*reading.options.backEnd);
-            }
+            UseOverlay_(reading.options.backEnd.value_or(ink.BackEnd()),
+                        reading.options.logLevel.value_or(ink.LogLevel()));
             TakeOptions_(reading.options);
         }
         isTaken = true;
@@ -126,7 +128,7 @@ bool Conductor::OnHandedArguments(std::string_view bytes)
 void Conductor::TakeOptions_(const Options& options)
 {
     if (options.colour) {
-        ChangeSettings_(WithColour(store.Get(), *options.colour));
+        ChangeSettings_(WithColour(CurrentSettings_(), *options.colour));
     }
     if (!options.recordFile.empty()) {
         StartRecord_(options.recordFile);
@@ -138,8 +140,10 @@ void Conductor::TakeOptions_(const Options& options)
 
 void Conductor::StartRecord_(const std::string& file)
 {
-    WriteRecord_();
-    recordFile.open(std::filesystem::path(ToWide(file)),
+    if (const auto failure = WriteRecord_()) {
+        Say_(*failure);
+    }
+    recordFile.open(lumora::text::PathOf(file),
                     std::ios::binary); // now: nobody wants to hear it at the end
     if (!recordFile.is_open()) {
         throw lumora::Error("the recording cannot be written to " + file);
@@ -147,17 +151,18 @@ void Conductor::StartRecord_(const std::string& file)
     record = {};
 }
 
-void Conductor::WriteRecord_()
+std::optional<std::string> Conductor::WriteRecord_()
 {
     if (!recordFile.is_open()) {
-        return;
+        return std::nullopt;
     }
     record.Write(recordFile);
     recordFile.close();
-    if (!recordFile) {
-        recordFile.clear();
-        Say_("The recording could not be written.");
+    if (recordFile) {
+        return std::nullopt;
     }
+    recordFile.clear();
+    return "The recording could not be written.";
 }
 
 void Conductor::LookAtDialog_()
@@ -183,13 +188,17 @@ void Conductor::LookAtFile_()
     }
     const BackEndName before = store.Get().backEnd;
     std::string text;
-    for (const std::string& complaint : store.Load()) {
+    const auto complaints = store.LoadEdited();
+    if (!complaints) {
+        return; // it cannot be read yet
+    }
+    for (const std::string& complaint : *complaints) {
         text += complaint + '\n';
     }
     Apply_();
     ApplyStyle_();
     if (store.Get().backEnd != before) {
-        UseBackEnd_(store.Get().backEnd);
+        UseOverlay_(store.Get().backEnd, ink.LogLevel());
     }
     Say_(text.empty() ? "The settings were read again." : text);
 }
@@ -200,16 +209,18 @@ void Conductor::ShowMenu_()
         return;
     }
     EndStroke_();
-    isAsking = true;
-    const unsigned id =
-        ShowMenu(window.Handle(), MenuOf({doing.mode, store.Get(), ink.BackEnd(), keys.Taken()}));
-    isAsking = false;
-    Choose_(ChoiceOf(id));
+    Choose_(ChoiceOf(AskMenu_()));
+}
+
+unsigned Conductor::AskMenu_()
+{
+    const ScopeFlag asking(isAsking);
+    return ShowMenu(window.Handle(), MenuOf({doing.mode, CurrentSettings_(), ink.BackEnd(), keys.Taken()}));
 }
 
 void Conductor::Choose_(const MenuChoice& choice)
 {
-    Settings settings = store.Get();
+    Settings settings = CurrentSettings_();
     switch (choice.command) {
     case MenuCommand::None:
         return;
@@ -246,7 +257,7 @@ void Conductor::Choose_(const MenuChoice& choice)
         break;
     case MenuCommand::BackEnd:
         settings.backEnd = static_cast<BackEndName>(choice.choice);
-        UseBackEnd_(settings.backEnd);
+        UseOverlay_(settings.backEnd, ink.LogLevel());
         break;
     }
     ChangeSettings_(settings);
@@ -263,22 +274,21 @@ void Conductor::OpenSettingsFile_()
 
 void Conductor::ShowAbout_()
 {
-    isAsking = true;
+    const ScopeFlag asking(isAsking);
     AboutFacts facts = {ink.BackEnd(),
                         store.Get(),
-                        ToUtf8(store.File().wstring()),
+                        lumora::text::Utf8Of(store.File()),
                         VersionOf(GetModuleHandleW(L"LumoraDLL.dll")),
                         {},
                         {}};
     for (const std::wstring& name : raw.UnreadablePens()) {
-        facts.unreadablePens.push_back(ToUtf8(name));
+        facts.unreadablePens.push_back(lumora::text::ToUtf8(name));
     }
     for (const std::wstring& name : raw.UnmappedPens()) {
-        facts.unmappedPens.push_back(ToUtf8(name));
+        facts.unmappedPens.push_back(lumora::text::ToUtf8(name));
     }
     const std::string text = AboutText(facts);
-    MessageBoxW(window.Handle(), ToWide(text).c_str(), L"About Lumora Pen", MB_OK);
-    isAsking = false;
+    MessageBoxW(window.Handle(), lumora::text::ToWide(text).c_str(), L"About Lumora Pen", MB_OK);
 }
 
 void Conductor::TellTakenKeys_()

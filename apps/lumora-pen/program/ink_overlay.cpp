@@ -1,7 +1,10 @@
 // The overlay's care.
 #include "program/ink_overlay.h"
 
+#include "program/scope_flag.h"
+
 #include <cmath>
+#include <utility>
 
 namespace lumora_pen {
 
@@ -18,18 +21,34 @@ InkOverlay::InkOverlay(BackEndName first, unsigned level)
     Make_();
 }
 
+// While a window goes or comes the system may call this program, which may want another one already: the call
+// that is under way sees to it.
 void InkOverlay::Make_()
 {
-    overlay.reset();
+    if (isMaking) {
+        return;
+    }
+    const ScopeFlag making(isMaking);
+    std::pair<BackEndName, unsigned> made;
+    do {
+        made = {backEnd, logLevel};
+        MakeOne_();
+    } while (made != std::pair(backEnd, logLevel));
+}
+
+void InkOverlay::MakeOne_()
+{
+    std::exchange(overlay, std::nullopt).reset(); // nobody reaches one that is going
     overlay.emplace(lumora::OverlayOptions{BackEnds[static_cast<std::size_t>(backEnd)], logLevel}, library);
     if (wanted) {
         overlay->WriteParams(*wanted);
     }
 }
 
-void InkOverlay::Use(BackEndName other)
+void InkOverlay::Use(BackEndName other, unsigned level)
 {
     backEnd = other;
+    logLevel = level;
     Make_();
 }
 
@@ -72,7 +91,9 @@ void InkOverlay::Wipe()
     overlay->WriteParams(none);
     overlay->Input({});
     UpdateWindow(overlay->Window());
-    overlay->WriteParams(style);
+    if (overlay) {
+        overlay->WriteParams(style);
+    }
 }
 
 void InkOverlay::OpenDialog()
@@ -98,7 +119,7 @@ bool InkOverlay::LookAfter(std::uint32_t now)
 {
     const bool hasBegunAgain = now < lastLook;
     lastLook = now;
-    if (!hasBegunAgain && Window() != nullptr) {
+    if (isMaking || (!hasBegunAgain && Window() != nullptr)) {
         return false;
     }
     Make_();

@@ -18,9 +18,10 @@ public:
     // Null while there is no overlay; then ink goes nowhere.
     HWND Window() const { return overlay ? overlay->Window() : nullptr; }
     BackEndName BackEnd() const { return backEnd; }
+    unsigned LogLevel() const { return logLevel; }
 
     // Makes the overlay anew; its ink goes. Throws lumora::Error; then there is none.
-    void Use(BackEndName other);
+    void Use(BackEndName other, unsigned level);
 
     void SetStyle(const lumora::Params& style);
     // With what a person has changed in the library's dialog.
@@ -42,10 +43,12 @@ public:
 
 private:
     void Make_();
+    void MakeOne_();
 
     lumora::Library library;
     BackEndName backEnd;
     unsigned logLevel;
+    bool isMaking = false;
     std::optional<lumora::Overlay> overlay;
     std::optional<lumora::Params> wanted; // the style that was set last
     std::vector<LM_PenData> batch;        // kept for its memory

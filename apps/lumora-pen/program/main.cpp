@@ -2,7 +2,8 @@
 #include "program/conductor.h"
 #include "program/instance_guard.h"
 #include "program/tell.h"
-#include "program/wide_text.h"
+#include "text/file_name.h"
+#include "text/wide_text.h"
 
 #include <shlobj.h>
 
@@ -29,7 +30,7 @@ struct TaskMemory {
 std::filesystem::path SettingsFile(const Options& options)
 {
     if (!options.settingsFile.empty()) {
-        return std::filesystem::absolute(lumora_pen::ToWide(options.settingsFile));
+        return std::filesystem::absolute(lumora::text::PathOf(options.settingsFile));
     }
     wchar_t* folder = nullptr;
     const HRESULT result = SHGetKnownFolderPath(FOLDERID_RoamingAppData, 0, nullptr, &folder);
@@ -72,11 +73,8 @@ int Write(const Options& options)
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
 {
     try {
-        std::vector<std::string> arguments;
-        for (int i = 1; i < __argc; ++i) {
-            arguments.push_back(lumora_pen::ToUtf8(__wargv[i]));
-        }
-        const lumora_pen::OptionsReading reading = lumora_pen::ReadOptions(arguments);
+        const lumora_pen::OptionsReading reading =
+            lumora_pen::ReadOptions(lumora::text::Utf8Arguments(__argc, __wargv));
         if (reading.isDone) {
             Tell(reading.isMistake ? Stream::Error : Stream::Output, reading.text);
             return reading.isMistake ? ExitWrongOptions : ExitDone;

@@ -1,6 +1,6 @@
 // Shell_NotifyIcon.
 #include "program/notification_icon.h"
-#include "program/wide_text.h"
+#include "text/wide_text.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ constexpr UINT IconNumber = 1;
 
 template <std::size_t Size> void Put(wchar_t (&place)[Size], std::string_view utf8)
 {
-    const std::wstring text = ToWide(utf8);
+    const std::wstring text = lumora::text::ToWide(utf8);
     const std::size_t length = std::min(text.size(), Size - 1);
     std::copy_n(text.begin(), length, place);
     place[length] = L'\0';

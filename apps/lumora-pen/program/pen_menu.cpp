@@ -1,6 +1,6 @@
 // The menu as the system has it.
 #include "program/pen_menu.h"
-#include "program/wide_text.h"
+#include "text/wide_text.h"
 
 #include <deque>
 
@@ -21,6 +21,18 @@ private:
 };
 
 using Bitmaps = std::deque<Bitmap>; // which stay where they are
+
+class Menu {
+public:
+    Menu() : handle(CreatePopupMenu()) {}
+    ~Menu() { DestroyMenu(handle); } // with its submenus
+    Menu(const Menu&) = delete;
+    Menu& operator=(const Menu&) = delete;
+    HMENU Get() const { return handle; }
+
+private:
+    HMENU handle;
+};
 
 // A square of the colour, as large as the menu's check marks. Nothing but the text is seen when there is
 // none.
@@ -43,7 +55,7 @@ HBITMAP MakeSwatch(const lumora::Colour& colour)
 
 void Append(HMENU menu, const MenuItem& item, HMENU submenu, Bitmaps& bitmaps)
 {
-    std::wstring text = ToWide(item.text);
+    std::wstring text = lumora::text::ToWide(item.text);
     MENUITEMINFOW info = {};
     info.cbSize = sizeof info;
     info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | (submenu != nullptr ? MIIM_SUBMENU : 0U);
@@ -77,17 +89,16 @@ HMENU MakeSubmenu(const std::vector<MenuItem>& items, Bitmaps& bitmaps)
 unsigned ShowMenu(HWND owner, const std::vector<MenuEntry>& entries)
 {
     Bitmaps bitmaps;
-    HMENU menu = CreatePopupMenu();
+    const Menu menu;
     for (const MenuEntry& entry : entries) {
-        Append(menu, entry.item, MakeSubmenu(entry.choices, bitmaps), bitmaps);
+        Append(menu.Get(), entry.item, MakeSubmenu(entry.choices, bitmaps), bitmaps);
     }
     POINT place = {};
     GetCursorPos(&place);
     SetForegroundWindow(owner); // or a click beside the menu would not close it
-    const BOOL chosen = TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x,
+    const BOOL chosen = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x,
                                          place.y, owner, nullptr);
     PostMessageW(owner, WM_NULL, 0, 0); // or the next menu would close at once
-    DestroyMenu(menu);                  // with its submenus
     return static_cast<unsigned>(chosen);
 }
 

@@ -1,6 +1,8 @@
 // When the settings' file is read and written.
 #include "program/settings_store.h"
 
+#include <utility>
+
 namespace lumora_pen {
 
 namespace {
@@ -15,13 +17,21 @@ std::vector<std::string> SettingsStore::Load()
     std::error_code error;
     isNew = !std::filesystem::exists(file, error);
     SettingsLoad load = LoadSettings(file);
+    Take_(load);
+    if (!load.isRead && load.maySave && !load.complaints.empty()) {
+        load.complaints.emplace_back("The usual settings hold.");
+    }
+    return std::move(load.complaints);
+}
+
+void SettingsStore::Take_(SettingsLoad& load)
+{
     settings = load.settings;
     text = std::move(load.text);
     maySave = load.maySave;
     hasChanged = false;
     changedAt.reset();
     RememberTime_();
-    return std::move(load.complaints);
 }
 
 void SettingsStore::Set(const Settings& changed)
@@ -38,7 +48,8 @@ std::optional<std::string> SettingsStore::KeepWhenDue(std::uint32_t now)
     if (hasChanged && !changedAt) {
         changedAt = now;
     }
-    return hasChanged && now - *changedAt >= RestMs ? Keep() : std::nullopt;
+    const bool isDue = hasChanged && now - *changedAt >= RestMs;
+    return isDue && !HasOtherTime_() ? Keep() : std::nullopt; // an edited file is read, not written over
 }
 
 std::optional<std::string> SettingsStore::Keep() { return hasChanged ? KeepAnyway() : std::nullopt; }
@@ -57,11 +68,37 @@ std::optional<std::string> SettingsStore::KeepAnyway()
     return failure;
 }
 
-bool SettingsStore::WasEdited() const
+bool SettingsStore::HasOtherTime_() const
 {
     std::error_code error;
     const auto now = std::filesystem::last_write_time(file, error);
     return !error && now != time;
+}
+
+bool SettingsStore::WasEdited()
+{
+    if (!HasOtherTime_()) {
+        seen.reset();
+        return false;
+    }
+    std::error_code error;
+    const auto now = std::filesystem::last_write_time(file, error);
+    return std::exchange(seen, now) == now;
+}
+
+std::optional<std::vector<std::string>> SettingsStore::LoadEdited()
+{
+    SettingsLoad load = LoadSettings(file);
+    if (load.isRead) {
+        Take_(load);
+    } else if (load.complaints.empty() || !load.maySave) {
+        return std::nullopt; // gone between two looks, or not to be opened
+    } else {
+        load.complaints.emplace_back("The settings stay as they were.");
+        hasChanged = true; // for the file is gone
+        RememberTime_();
+    }
+    return std::move(load.complaints);
 }
 
 void SettingsStore::RememberTime_()

@@ -1,6 +1,6 @@
 // Texts for a console or a box.
 #include "program/tell.h"
-#include "program/wide_text.h"
+#include "text/wide_text.h"
 
 #include <windows.h>
 
@@ -12,7 +12,7 @@ void Tell(Stream stream, std::string_view utf8)
     DWORD written = 0;
     if (WriteFile(GetStdHandle(isError ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE), utf8.data(),
                   static_cast<DWORD>(utf8.size()), &written, nullptr) == 0) {
-        MessageBoxW(nullptr, ToWide(utf8).c_str(), L"Lumora Pen",
+        MessageBoxW(nullptr, lumora::text::ToWide(utf8).c_str(), L"Lumora Pen",
                     MB_OK | (isError ? MB_ICONERROR : MB_ICONINFORMATION));
     }
 }

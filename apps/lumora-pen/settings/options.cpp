@@ -1,9 +1,9 @@
 // Reads the command line, and writes one for the instance that runs already.
 #include "settings/options.h"
 
-#include "settings/file_name.h"
 #include "settings/help.h"
 #include "settings/words.h"
+#include "text/file_name.h"
 
 #include <CLI/CLI.hpp>
 
@@ -195,7 +195,8 @@ OptionsReading Wrong(std::string_view mistake)
 std::string AbsoluteName(const std::string& file)
 {
     std::error_code error;
-    const std::string name = TextOf(std::filesystem::absolute(PathOf(file), error));
+    const std::string name =
+        lumora::text::Utf8Of(std::filesystem::absolute(lumora::text::PathOf(file), error));
     return error || name.empty() ? file : name;
 }
 
@@ -247,8 +248,8 @@ std::vector<std::string> ArgumentsOf(const Options& options)
     if (options.quit) {
         arguments.emplace_back(QuitOption);
     }
-    if (options.logLevel != 0) {
-        add(LogLevelOption, std::to_string(options.logLevel));
+    if (options.logLevel) {
+        add(LogLevelOption, std::to_string(*options.logLevel));
     }
     return arguments;
 }

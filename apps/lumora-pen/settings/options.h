@@ -17,7 +17,7 @@ struct Options {
     std::optional<BackEndName> backEnd;
     std::string recordFile; // empty: none
     bool quit = false;      // ends the one that runs
-    unsigned logLevel = 0;
+    std::optional<unsigned> logLevel;
 };
 
 struct OptionsReading {

@@ -1,9 +1,9 @@
 // Reads and writes the settings' file.
 #include "settings/settings_file.h"
 
-#include "settings/file_name.h"
 #include "settings/new_file.h"
 #include "settings/settings_text.h"
+#include "text/file_name.h"
 
 #include <fstream>
 #include <system_error>
@@ -14,7 +14,10 @@ namespace {
 
 using std::filesystem::path;
 
-std::string Quoted(const path& file) { return std::string("\"").append(TextOf(file)).append("\""); }
+std::string Quoted(const path& file)
+{
+    return std::string("\"").append(lumora::text::Utf8Of(file)).append("\"");
+}
 
 // The system's own texts are in any language and code page, those of the standard's conditions are not.
 std::string ReasonOf(const std::error_code& error)
@@ -63,7 +66,7 @@ void KeepAside(const path& file, SettingsLoad& load)
                                   " is left as it is, and changes are not saved: it could not be renamed (" +
                                   ReasonOf(error) + ").");
     } else {
-        load.complaints.push_back("The file is kept as " + Quoted(aside) + ", and new settings are begun.");
+        load.complaints.push_back("The file is kept as " + Quoted(aside) + ".");
     }
 }
 
@@ -118,6 +121,7 @@ SettingsLoad LoadSettings(const path& file)
         KeepAside(file, load);
     } else {
         load.text = std::move(*text);
+        load.isRead = true;
     }
     return load;
 }

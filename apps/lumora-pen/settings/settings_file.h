@@ -15,12 +15,13 @@ struct SettingsLoad {
     Settings settings;
     std::vector<std::string> complaints; // one line each, for a person
     std::string text;                    // what was read, for SaveSettings; empty: nothing to keep
-    bool maySave =
-        true; // false: a file is there that could neither be read nor kept aside, and saving would destroy it
+    bool isRead = false;                 // `settings` are what the file says
+    // False: a file is there that could neither be read nor kept aside, and saving would destroy it.
+    bool maySave = true;
 };
 
-// A file that is not there gives the defaults without a word. A broken one is kept aside: "pen.json" becomes
-// "pen.broken.json" beside it, or "pen.broken-2.json" and so on.
+// A file that is not there gives the defaults without a word, one that cannot be read gives them with one. A
+// broken one is kept aside: "pen.json" becomes "pen.broken.json" beside it, or "pen.broken-2.json" and so on.
 SettingsLoad LoadSettings(const std::filesystem::path& file);
 
 // All or nothing; missing folders are made. The reason when it failed: one line for a person, and the old

@@ -7,9 +7,9 @@
 namespace lumora_pen {
 namespace {
 
-constexpr ScreenRectangle First = {0, 0, 1920, 1080};
-constexpr ScreenRectangle Right = {1920, 0, 5760, 2160}; // twice the scaling, so twice the pixels
-constexpr ScreenRectangle Left = {-1280, 0, 0, 1024};
+constexpr PixelRectangle First = {0, 0, 1920, 1080};
+constexpr PixelRectangle Right = {1920, 0, 5760, 2160}; // twice the scaling, so twice the pixels
+constexpr PixelRectangle Left = {-1280, 0, 0, 1024};
 
 // An opaque tablet, and the pens of two displays.
 constexpr PenRanges Intuos = {{0, 44704}, {0, 27940}, {0, 2047}};
@@ -44,7 +44,7 @@ InputSample Placed(const PenReport& report, const PenRanges& ranges, const PenPl
 struct PlaceCase {
     const char* name;
     PenRanges ranges;
-    ScreenRectangle display;
+    PixelRectangle display;
     std::int32_t reportedX;
     std::int32_t reportedY;
     double x;
@@ -180,7 +180,7 @@ TEST(PenReports, DisplayOfNoSizeHasNoPlaces)
 TEST(PenReports, TurnedDisplayTurnsThePlacesWithIt)
 {
     const PenRanges ranges = {{0, 100}, {0, 100}, {0, 1}};
-    const ScreenRectangle upright = {0, 0, 1001, 2001};
+    const PixelRectangle upright = {0, 0, 1001, 2001};
     const PenReport report = Touch(25, 10, 1);
     const InputSample none = Placed(report, ranges, {upright, Turn::None});
     EXPECT_DOUBLE_EQ(none.x, 250);

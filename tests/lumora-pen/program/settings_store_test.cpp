@@ -1,5 +1,6 @@
 // When the settings' file is read and written.
 #include "program/settings_store.h"
+#include "settings/settings_text.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
@@ -10,14 +11,25 @@ namespace lumora_pen {
 
 namespace {
 
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::Optional;
 
 class Store : public testing::Test {
 protected:
     std::filesystem::path File() const { return folder.Path() / "pen.json"; }
 
     Settings OnDisk() const { return LoadSettings(File()).settings; }
+
+    // Each time later than before, however coarse the clock of the disk is.
+    void Edit(const std::string& text)
+    {
+        std::ofstream(File(), std::ios::binary) << text;
+        editedAt += std::chrono::seconds(2);
+        std::filesystem::last_write_time(File(), editedAt);
+    }
 
     static Settings OfWidth(int width)
     {
@@ -27,6 +39,7 @@ protected:
     }
 
     zq::LM::test::TemporaryFolder folder;
+    std::filesystem::file_time_type editedAt = std::filesystem::file_time_type::clock::now();
 };
 
 TEST_F(Store, WithoutAFileIsNewAndWritesNoneByItself)
@@ -96,10 +109,84 @@ TEST_F(Store, KnowsWhatItHasWrittenItselfFromWhatOthersWrite)
     EXPECT_FALSE(store.WasEdited());
     std::filesystem::last_write_time(File(),
                                      std::filesystem::last_write_time(File()) + std::chrono::seconds(2));
+    EXPECT_FALSE(store.WasEdited()) << "it may be half written";
     EXPECT_TRUE(store.WasEdited());
-    store.Load();
+    EXPECT_THAT(store.LoadEdited(), Optional(IsEmpty()));
     EXPECT_FALSE(store.WasEdited());
     EXPECT_EQ(store.Get().width, 20);
+}
+
+TEST_F(Store, WaitsUntilAnEditorIsDone)
+{
+    SettingsStore store(File());
+    store.Load();
+    EXPECT_EQ(store.KeepAnyway(), std::nullopt);
+    for (int part = 0; part < 3; ++part) {
+        Edit(WriteSettings(OfWidth(20), "").substr(0, 40));
+        EXPECT_FALSE(store.WasEdited());
+    }
+    EXPECT_TRUE(store.WasEdited());
+}
+
+TEST_F(Store, EditedFileIsTaken)
+{
+    SettingsStore store(File());
+    store.Load();
+    Edit(WriteSettings(OfWidth(20), ""));
+    EXPECT_THAT(store.LoadEdited(), Optional(IsEmpty()));
+    EXPECT_EQ(store.Get().width, 20);
+}
+
+TEST_F(Store, EditedFileIsNotWrittenOverBeforeItIsRead)
+{
+    SettingsStore store(File());
+    store.Load();
+    EXPECT_EQ(store.KeepAnyway(), std::nullopt);
+    Edit(WriteSettings(OfWidth(20), ""));
+    store.Set(OfWidth(30));
+    EXPECT_EQ(store.KeepWhenDue(1000), std::nullopt);
+    EXPECT_EQ(store.KeepWhenDue(5000), std::nullopt);
+    EXPECT_EQ(OnDisk().width, 20);
+}
+
+TEST_F(Store, EditThatIsNoTextOfSettingsChangesNothing)
+{
+    SettingsStore store(File());
+    store.Load();
+    store.Set(OfWidth(20));
+    EXPECT_EQ(store.Keep(), std::nullopt);
+    Edit("{\"width\": 30,,");
+    EXPECT_THAT(store.LoadEdited(),
+                Optional(ElementsAre(HasSubstr("is no JSON"), HasSubstr("pen.broken.json"),
+                                     "The settings stay as they were.")));
+    EXPECT_EQ(store.Get().width, 20);
+    EXPECT_FALSE(store.WasEdited());
+    EXPECT_EQ(store.Keep(), std::nullopt);
+    EXPECT_EQ(OnDisk().width, 20);
+}
+
+TEST_F(Store, EditThatCannotBeReadYetIsLeftForLater)
+{
+    SettingsStore store(File());
+    store.Load();
+    store.Set(OfWidth(20));
+    EXPECT_EQ(store.Keep(), std::nullopt);
+    std::filesystem::remove(File());
+    std::filesystem::create_directories(File());
+    EXPECT_EQ(store.LoadEdited(), std::nullopt);
+    EXPECT_EQ(store.Get().width, 20);
+    std::filesystem::remove(File());
+    EXPECT_EQ(store.LoadEdited(), std::nullopt) << "an editor is about to rename its own to it";
+    Edit(WriteSettings(OfWidth(30), ""));
+    EXPECT_THAT(store.LoadEdited(), Optional(IsEmpty()));
+    EXPECT_EQ(store.Get().width, 30);
+}
+
+TEST_F(Store, StartWithABrokenFileSaysWhatHolds)
+{
+    Edit("broken");
+    SettingsStore store(File());
+    EXPECT_THAT(store.Load(), testing::Contains("The usual settings hold."));
 }
 
 TEST_F(Store, WhatThisVersionDoesNotKnowOutlivesSeveralChanges)

@@ -1,6 +1,6 @@
 // The command line: every option, every mistake, and the way to the instance that runs already.
-#include "settings/file_name.h"
 #include "settings/options.h"
+#include "text/file_name.h"
 
 #include "lumora/version.h"
 
@@ -222,12 +222,13 @@ TEST(ArgumentsOfOptions, AreNoneForNone) { EXPECT_THAT(ArgumentsOf(Options()), I
 TEST(ArgumentsOfOptions, AreReadBackAsTheSame)
 {
     Options options;
-    options.settingsFile = TextOf(std::filesystem::current_path() / PathOf("ä [b].json"));
+    options.settingsFile =
+        lumora::text::Utf8Of(std::filesystem::current_path() / lumora::text::PathOf("ä [b].json"));
     options.board = true;
     options.colour = "00FF00";
     options.backEnd = BackEndName::Direct2D;
-    options.recordFile = TextOf(std::filesystem::current_path() / "--a b.svc");
-    options.logLevel = 17;
+    options.recordFile = lumora::text::Utf8Of(std::filesystem::current_path() / "--a b.svc");
+    options.logLevel = 0; // which may end what an earlier start has asked for
     ExpectSame(Read(ArgumentsOf(options)), options);
 
     Options quit;
@@ -241,9 +242,11 @@ TEST(ArgumentsOfOptions, NameFilesFromTheirRoot)
     Options options;
     options.settingsFile = "pen.json";
     options.recordFile = "-ä.svc";
-    EXPECT_THAT(ArgumentsOf(options),
-                ElementsAre("--settings", TextOf(std::filesystem::current_path() / "pen.json"), "--record",
-                            TextOf(std::filesystem::current_path() / PathOf("-ä.svc"))));
+    EXPECT_THAT(
+        ArgumentsOf(options),
+        ElementsAre("--settings", lumora::text::Utf8Of(std::filesystem::current_path() / "pen.json"),
+                    "--record",
+                    lumora::text::Utf8Of(std::filesystem::current_path() / lumora::text::PathOf("-ä.svc"))));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The settings' file: what is read, kept aside and left alone, and what a failed or killed write leaves.
-#include "settings/file_name.h"
 #include "settings/settings_file.h"
 #include "support/temporary_folder.h"
+#include "text/file_name.h"
 
 #include <gmock/gmock.h>
 
@@ -38,7 +38,7 @@ protected:
     {
         std::vector<std::string> names;
         for (const auto& entry : fs::directory_iterator(folder.Path())) {
-            names.push_back(TextOf(entry.path().filename()));
+            names.push_back(lumora::text::Utf8Of(entry.path().filename()));
         }
         std::sort(names.begin(), names.end());
         return names;
@@ -51,6 +51,7 @@ protected:
 TEST_F(SettingsFile, ThatIsNotThereGivesTheDefaultsWithoutAWord)
 {
     const SettingsLoad load = LoadSettings(file);
+    EXPECT_FALSE(load.isRead);
     EXPECT_EQ(load.settings, Settings());
     EXPECT_THAT(load.complaints, IsEmpty());
     EXPECT_EQ(load.text, "");
@@ -66,6 +67,7 @@ TEST_F(SettingsFile, GivesBackWhatWasSaved)
     EXPECT_EQ(load.settings, WithWidth(9));
     EXPECT_THAT(load.complaints, IsEmpty());
     EXPECT_EQ(load.text, folder.Content("pen.json"));
+    EXPECT_TRUE(load.isRead);
     EXPECT_TRUE(load.maySave);
 }
 
@@ -87,7 +89,8 @@ TEST_F(SettingsFile, MakesTheFoldersThatAreMissing)
 
 TEST_F(SettingsFile, MayHaveAnyLettersInItsName)
 {
-    const fs::path named = PathOf(TextOf(folder.Path()) + "/Ein Stift für Łukasz 筆.json");
+    const fs::path named =
+        lumora::text::PathOf(lumora::text::Utf8Of(folder.Path()) + "/Ein Stift für Łukasz 筆.json");
     EXPECT_EQ(SaveSettings(named, WithWidth(9), ""), std::nullopt);
     EXPECT_THAT(Names(), ElementsAre("Ein Stift für Łukasz 筆.json"));
     EXPECT_EQ(LoadSettings(named).settings, WithWidth(9));
@@ -119,13 +122,13 @@ TEST_F(SettingsFile, ThatIsBrokenIsKeptAsideAndSaid)
 {
     folder.Write("pen.json", "{\"width\": 9,\n");
     const SettingsLoad load = LoadSettings(file);
+    EXPECT_FALSE(load.isRead);
     EXPECT_EQ(load.settings, Settings());
     EXPECT_EQ(load.text, "");
     EXPECT_TRUE(load.maySave);
-    const std::string aside = TextOf(folder.Path() / "pen.broken.json");
-    EXPECT_THAT(load.complaints,
-                ElementsAre("The settings cannot be read: line 2 is no JSON.",
-                            "The file is kept as \"" + aside + "\", and new settings are begun."));
+    const std::string aside = lumora::text::Utf8Of(folder.Path() / "pen.broken.json");
+    EXPECT_THAT(load.complaints, ElementsAre("The settings cannot be read: line 2 is no JSON.",
+                                             "The file is kept as \"" + aside + "\"."));
     EXPECT_THAT(Names(), ElementsAre("pen.broken.json"));
     EXPECT_EQ(folder.Content("pen.broken.json"), "{\"width\": 9,\n");
 }
@@ -167,12 +170,13 @@ TEST_F(SettingsFile, ThatIsAFolderIsSaidAndLeftAlone)
     fs::create_directory(file);
     folder.Write("pen.json/mine", "mine");
     const SettingsLoad load = LoadSettings(file);
+    EXPECT_FALSE(load.isRead);
     EXPECT_EQ(load.settings, Settings());
     EXPECT_FALSE(load.maySave);
     EXPECT_THAT(
         load.complaints,
         ElementsAre(
-            '"' + TextOf(file) +
+            '"' + lumora::text::Utf8Of(file) +
             "\" cannot be read and is left as it is: the usual settings hold, and changes are not saved."));
     EXPECT_THAT(Names(), ElementsAre("pen.json"));
     EXPECT_EQ(folder.Content("pen.json/mine"), "mine");
@@ -184,8 +188,8 @@ TEST_F(SettingsFile, ThatCannotBeReplacedIsLeftAndTheReasonIsSaid)
     folder.Write("pen.json/mine", "mine");
     const auto reason = SaveSettings(file, WithWidth(9), "");
     ASSERT_TRUE(reason);
-    EXPECT_THAT(*reason,
-                testing::StartsWith("The settings could not be saved to \"" + TextOf(file) + "\": "));
+    EXPECT_THAT(*reason, testing::StartsWith("The settings could not be saved to \"" +
+                                             lumora::text::Utf8Of(file) + "\": "));
     EXPECT_THAT(Names(), ElementsAre("pen.json"));
     EXPECT_EQ(folder.Content("pen.json/mine"), "mine");
 }
@@ -197,7 +201,7 @@ TEST_F(SettingsFile, InAFolderThatCannotBeMadeIsNotSavedAndTheReasonIsSaid)
          {folder.Path() / "taken" / "pen.json", folder.Path() / "taken" / "a" / "pen.json"}) {
         const auto reason = SaveSettings(below, WithWidth(9), "");
         ASSERT_TRUE(reason);
-        EXPECT_THAT(*reason, AllOf(HasSubstr(TextOf(below)), testing::EndsWith(".")));
+        EXPECT_THAT(*reason, AllOf(HasSubstr(lumora::text::Utf8Of(below)), testing::EndsWith(".")));
         EXPECT_EQ(std::count(reason->begin(), reason->end(), '\n'), 0);
         EXPECT_EQ(LoadSettings(below).settings, Settings());
     }

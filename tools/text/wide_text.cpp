@@ -1,9 +1,9 @@
 // UTF-8 and UTF-16.
-#include "program/wide_text.h"
+#include "text/wide_text.h"
 
 #include <windows.h>
 
-namespace lumora_pen {
+namespace lumora::text {
 
 std::wstring ToWide(std::string_view utf8)
 {
@@ -24,4 +24,13 @@ std::string ToUtf8(std::wstring_view text)
     return utf8;
 }
 
-} // namespace lumora_pen
+std::vector<std::string> Utf8Arguments(int argc, wchar_t** argv)
+{
+    std::vector<std::string> arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.push_back(ToUtf8(argv[i]));
+    }
+    return arguments;
+}
+
+} // namespace lumora::text

@@ -1,5 +1,5 @@
 // What the system's numbers for a pen or a finger mean.
-#include "ink/pointer_report.h"
+#include "input/pointer_report.h"
 
 #include <gmock/gmock.h>
 

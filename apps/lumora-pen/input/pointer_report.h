@@ -1,8 +1,8 @@
 // What the system's numbers for a pen or a finger mean.
 #pragma once
 
-#include "ink/pixel_rectangle.h"
 #include "input/input.h"
+#include "input/pixel_rectangle.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,13 +1,13 @@
 // Names of files as UTF-8.
-#include "settings/file_name.h"
+#include "text/file_name.h"
 
 #include <exception>
 
-namespace lumora_pen {
+namespace lumora::text {
 
 std::filesystem::path PathOf(std::string_view utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
-std::string TextOf(const std::filesystem::path& path)
+std::string Utf8Of(const std::filesystem::path& path)
 {
     try {
         const std::u8string text = path.u8string();
@@ -17,4 +17,4 @@ std::string TextOf(const std::filesystem::path& path)
     }
 }
 
-} // namespace lumora_pen
+} // namespace lumora::text

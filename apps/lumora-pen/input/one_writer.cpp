@@ -1,5 +1,5 @@
 // One writes at a time.
-#include "ink/one_writer.h"
+#include "input/one_writer.h"
 
 #include <algorithm>
 #include <utility>
