@@ -5,7 +5,7 @@ namespace lumora_pen {
 
 class ScopeFlag {
 public:
-    explicit ScopeFlag(bool& raised) : flag(raised) { flag = true; }
+    explicit ScopeFlag(bool& raised) : flag(raised) { raised = true; }
     ~ScopeFlag() { flag = false; }
     ScopeFlag(const ScopeFlag&) = delete;
     ScopeFlag& operator=(const ScopeFlag&) = delete;
