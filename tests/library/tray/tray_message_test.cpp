@@ -34,7 +34,7 @@ protected:
 TEST_F(TrayMessageTest, TheLeftAndTheRightButtonOpenTheMenuAtTheCursor)
 {
     CreateWithTray(Normal);
-    for (const UINT button : {WM_LBUTTONDOWN, WM_RBUTTONDOWN}) {
+    for (const UINT button : {UINT{WM_LBUTTONDOWN}, UINT{WM_RBUTTONDOWN}}) {
         debugger.Clear();
         EXPECT_EQ(SendMouse(button), 0) << button;
         EXPECT_EQ(calls.Take(), PopUp) << button;
@@ -71,7 +71,8 @@ TEST_F(TrayMessageTest, ADoubleClickDoesNothing)
 TEST_F(TrayMessageTest, TheWholeOfADoubleClickOpensTheMenuOnce)
 {
     CreateWithTray();
-    for (const UINT event : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+    for (const UINT event :
+         {UINT{WM_LBUTTONDOWN}, UINT{WM_LBUTTONUP}, UINT{WM_LBUTTONDBLCLK}, UINT{WM_LBUTTONUP}}) {
         SendMouse(event);
     }
     EXPECT_EQ(calls.Count("TrackPopupMenu"), 1U);
@@ -82,8 +83,9 @@ TEST_F(TrayMessageTest, EveryOtherEventHasTheSystemsAnswer)
     CreateWithTray(Normal);
     constexpr LRESULT Answer = 77;
     calls.Answer<"DefWindowProcW">(DefWindowProcW, [](HWND, UINT, WPARAM, LPARAM) { return Answer; });
-    for (const UINT event : {WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONUP, WM_RBUTTONDBLCLK, WM_MBUTTONDOWN,
-                             WM_CONTEXTMENU, WM_NULL}) {
+    for (const UINT event :
+         {UINT{WM_MOUSEMOVE}, UINT{WM_LBUTTONUP}, UINT{WM_RBUTTONUP}, UINT{WM_RBUTTONDBLCLK},
+          UINT{WM_MBUTTONDOWN}, UINT{WM_CONTEXTMENU}, UINT{WM_NULL}}) {
         debugger.Clear();
         EXPECT_EQ(SendMouse(event), Answer) << event;
         EXPECT_EQ(debugger.Texts(), LinesOfMouse) << event;

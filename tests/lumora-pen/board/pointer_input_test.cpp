@@ -242,8 +242,8 @@ TEST_F(BoardInput, PalmBesideThePenDoesNotWriteAndNeitherDoesTheMouse)
 
 TEST_F(BoardInput, EraserEndWritesNoInk)
 {
-    for (const PEN_FLAGS end : {PEN_FLAG_INVERTED, PEN_FLAG_ERASER, PEN_FLAG_INVERTED | PEN_FLAG_ERASER}) {
-        penFlags = end;
+    for (const int end : {PEN_FLAG_INVERTED, PEN_FLAG_ERASER, PEN_FLAG_INVERTED | PEN_FLAG_ERASER}) {
+        penFlags = static_cast<PEN_FLAGS>(end);
         taken.clear();
         SendPointer(WM_POINTERDOWN, {{1000, 1000, 512}});
         SendPointer(WM_POINTERUPDATE, {{1100, 1000, 512}});
