@@ -1,7 +1,7 @@
 # Libraries of others that are headers alone. A package that CMake finds for the target system, as vcpkg's, comes first.
 # Debian has the headers for itself only, though they serve every system: a cross build takes them from there too. Their
 # folder's neighbours would not serve, so the build folder gets a folder with these headers alone.
-include_guard()
+include_guard(GLOBAL)
 
 # lumora_headers(TARGET PACKAGE IMPORTED HEADER DEBIAN): HEADER as "folder/file".
 function(lumora_headers target package imported header debian)

@@ -23,6 +23,8 @@ fuzzPackages=(clang libclang-rt-dev)
 # shellcheck disable=SC2034
 benchPackages=(libbenchmark-dev)
 # shellcheck disable=SC2034
+latencyPackages=(libxtst-dev)
+# shellcheck disable=SC2034
 bindingPackages=(python3 mono-mcs mono-runtime)
 # Node from elsewhere brings npm along and does not go with Debian's npm.
 command -v npm >/dev/null || bindingPackages+=(nodejs npm)

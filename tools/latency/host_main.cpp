@@ -1,0 +1,49 @@
+// lumora-latency-host: hands over samples when the measuring program asks for a run.
+//
+//   lumora-latency-host EXCHANGE-FILE bare
+//   lumora-latency-host EXCHANGE-FILE LIBRARY-FILE
+#include "latency/paced_run.h"
+#include "latency/shared_file.h"
+
+#include "lumora/error.hpp"
+
+#include <iostream>
+#include <string_view>
+
+namespace {
+
+using namespace lumora::latency;
+
+void Serve(Exchange& exchange, InkSink& sink)
+{
+    constexpr DWORD LookEveryMs = 10;
+    exchange.isReady.store(1);
+    while (exchange.quits.load() == 0) {
+        PumpFor(LookEveryMs);
+        const std::uint32_t wanted = exchange.wanted.load(std::memory_order_acquire);
+        if (wanted != exchange.done.load()) {
+            Run(exchange, sink);
+            exchange.done.store(wanted, std::memory_order_release);
+        }
+    }
+}
+
+} // namespace
+
+int wmain(int argc, wchar_t** argv)
+{
+    if (argc != 3) {
+        std::cerr << "usage: lumora-latency-host EXCHANGE-FILE bare|LIBRARY-FILE\n";
+        return 2;
+    }
+    try {
+        const SharedFile file(argv[1]);
+        const std::wstring_view what = argv[2];
+        const std::unique_ptr<InkSink> sink = what == L"bare" ? MakeBareSink() : MakeLibrarySink(what);
+        Serve(file.Get(), *sink);
+        return 0;
+    } catch (const std::exception& failure) {
+        std::cerr << "lumora-latency-host: " << failure.what() << '\n';
+        return 1;
+    }
+}

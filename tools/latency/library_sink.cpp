@@ -1,0 +1,44 @@
+// The library with its GDI back-end, set to draw plain lines of one width.
+#include "latency/ink_sink.h"
+
+#include "library_file.h"
+
+#include "lumora/lumora.hpp"
+
+#include <vector>
+
+namespace lumora::latency {
+
+namespace {
+
+class LibrarySink final : public InkSink {
+public:
+    explicit LibrarySink(const std::filesystem::path& library)
+        : overlay({BackEnd::GDI, 0}, replay::LoadLibraryFile(library))
+    {
+        overlay.ChangeParams([](Params& params) {
+            params.inkDecayTime = std::chrono::milliseconds(InkLifeMs);
+            params.brushSize = InkWidth;
+            params.minBrushSize = InkWidth;
+            params.usePressure = false;
+            params.cursor = false;
+        });
+    }
+
+    void Input(std::span<const LM_PenData> samples) override
+    {
+        overlay.Input(samples.data(), samples.size());
+    }
+
+private:
+    Overlay overlay;
+};
+
+} // namespace
+
+std::unique_ptr<InkSink> MakeLibrarySink(const std::filesystem::path& library)
+{
+    return std::make_unique<LibrarySink>(library);
+}
+
+} // namespace lumora::latency
