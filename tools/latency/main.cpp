@@ -24,6 +24,7 @@ struct Options {
     std::uint32_t samples = 120;
     unsigned runs = 3;
     bool heads = false;
+    bool byMouse = false;
     MouseRoad mouse;
 };
 
@@ -115,14 +116,14 @@ int Answer(int argc, char** argv)
         ->check(CLI::Range(1, 1024));
     app.add_option("--runs", options.runs, "paired runs, each A B B A")->check(CLI::Range(1, 99));
     app.add_flag("--heads", options.heads, "writes the names of the columns, and measures nothing");
+    app.add_flag("--mouse", options.byMouse, "measures a program that is there, by the display's mouse");
     app.add_option("--hold", options.mouse.heldKeys,
-                   "measures by the display's mouse, with these keys held (Control_L Shift_L)");
-    app.add_option("--button", options.mouse.button,
-                   "measures by the display's mouse, with this button held");
+                   "keys that are held while it writes (Control_L Shift_L)");
+    app.add_option("--button", options.mouse.button, "a button that is held while it writes");
     CLI11_PARSE(app, argc, argv);
     if (options.heads) {
         WriteHeads(options);
-    } else if (!options.mouse.heldKeys.empty() || options.mouse.button != 0) {
+    } else if (options.byMouse) {
         MeasureByMouse(options);
     } else {
         Measure(options);

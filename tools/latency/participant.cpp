@@ -62,10 +62,11 @@ private:
 
 } // namespace
 
-Participant::Participant(std::string name, const std::filesystem::path& exchangeFile)
-    : name(std::move(name)),
-      descriptor(open(exchangeFile.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600))
+// A host that sees the file may use it: it gets its name when it is complete.
+Participant::Participant(std::string name, const std::filesystem::path& exchangeFile) : name(std::move(name))
 {
+    const std::filesystem::path unfinished = exchangeFile.string() + ".new";
+    descriptor = open(unfinished.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     void* mapped = MAP_FAILED;
     if (descriptor >= 0 && ftruncate(descriptor, sizeof(Exchange)) == 0) {
         mapped = mmap(nullptr, sizeof(Exchange), PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
@@ -75,6 +76,7 @@ Participant::Participant(std::string name, const std::filesystem::path& exchange
     }
     exchange = new (mapped) Exchange{};
     exchange->version.store(ExchangeVersion);
+    std::filesystem::rename(unfinished, exchangeFile);
 }
 
 Participant::~Participant()

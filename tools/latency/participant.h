@@ -29,7 +29,7 @@ public:
 
 private:
     std::string name;
-    int descriptor;
+    int descriptor = -1;
     Exchange* exchange = nullptr;
 };
 
