@@ -30,6 +30,13 @@ DrawingLib* ActiveBackEnd()
     return core != nullptr ? core->TheCanvas().ActiveBackEnd() : nullptr;
 }
 
+void AddToCanvas(int x1, int y1, int x2, int y2, unsigned width)
+{
+    if (Core* core = LivingCore()) {
+        core->TheCanvas().AddLine(x1, y1, x2, y2, width);
+    }
+}
+
 // Windows stay behind when the back-end changes, and when an instance ends on another thread. One whose Core
 // has ended while it was being made is not to come into being.
 LRESULT ServeLeftWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -117,6 +124,7 @@ void DrawLineCallback(int x1, int y1, unsigned w1, unsigned c1, int x2, int y2, 
     if (DrawingLib* backEnd = ActiveBackEnd()) {
         const unsigned width = MixWidths(w1, w2);
         const unsigned colour = InkLineColour(c1, c2);
+        AddToCanvas(x1, y1, x2, y2, width);
         backEnd->DrawLine(x1, y1, width, colour, x2, y2, width, colour);
     }
 }
@@ -126,6 +134,7 @@ void EraseLineCallback(int x1, int y1, unsigned w1, unsigned, int x2, int y2, un
     if (DrawingLib* backEnd = ActiveBackEnd()) {
         // Alpha stays 0: a back-end that honours it draws nothing.
         const unsigned width = MixWidths(w1, w2);
+        AddToCanvas(x1, y1, x2, y2, width);
         backEnd->DrawLine(x1, y1, width, g_colorKey, x2, y2, width, g_colorKey);
     }
 }
@@ -143,7 +152,8 @@ void DrawTextCallback(int x, int y, unsigned, unsigned colour, const char* text)
     if (core == nullptr) {
         return;
     }
-    const Canvas& canvas = core->TheCanvas();
+    Canvas& canvas = core->TheCanvas();
+    canvas.AddText();
     if (DrawingLib* backEnd = canvas.ActiveBackEnd()) {
         DrawNarrowText(*backEnd, canvas.Scale(), x, y, colour, text);
     }

@@ -122,11 +122,11 @@ Heritage Core::Bequeath()
     return heritage;
 }
 
-void Core::OnPaint()
+void Core::OnPaint(bool isOwn)
 {
     FollowScreen_();
     if (Window() != nullptr) {
-        canvas.Paint();
+        canvas.Paint(isOwn);
     }
 }
 

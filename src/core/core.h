@@ -49,7 +49,9 @@ public:
 private:
     void OnEnd() override;
     void OnCreated() override;
-    void OnPaint() override;
+    void OnPaint(bool isOwn) override;
+    void OnWanted(const RECT& part) override { canvas.AddWanted(part); }
+    void OnErased() override { canvas.ForgetWindow(); }
     void OnTick() override;
     void OnCommand(unsigned id) override;
     void OnMenuWanted() override { tray.PopUp(); }

@@ -11,7 +11,12 @@ namespace zq::LM {
 
 namespace {
 
-template <typename BackEnd> std::unique_ptr<DrawingLib> MakeBackEnd() { return MakeOrNull<BackEnd>(); }
+template <typename BackEnd> std::unique_ptr<DrawingLib> MakeBackEnd(PaintRecord& record)
+{
+    return MakeOrNull<BackEnd>(record);
+}
+
+std::unique_ptr<DrawingLib> MakeComposition(PaintRecord&) { return MakeOrNull<DirectComposition>(); }
 
 Owned<ParamsView> MakeDialog(HWND parent, HMODULE module, Params* record)
 {
@@ -27,7 +32,7 @@ std::unique_ptr<BrushDataServer> MakeServer(std::uint16_t port) { return MakeOrN
 } // namespace
 
 const Makers LibraryMakers = {
-    .backEnds = {MakeBackEnd<DirectComposition>, MakeBackEnd<D2D>, MakeBackEnd<GDI>},
+    .backEnds = {MakeComposition, MakeBackEnd<D2D>, MakeBackEnd<GDI>},
     .paramsView = MakeDialog,
     .brushDataServer = MakeServer,
 };

@@ -2,6 +2,7 @@
 #include "render/canvas.h"
 
 #include "log/debug_log.h"
+#include "render/clip.h"
 #include "render/key_fill.h"
 #include "render/line_rules.h"
 #include "render/shell_window.h"
@@ -13,7 +14,7 @@ namespace zq::LM {
 Canvas::Canvas(CanvasOwner& owner, const BackEndMakers& makers) : owner(owner)
 {
     for (const BackEndMaker make : makers) {
-        backEnds.push_back(make());
+        backEnds.push_back(make(record));
     }
 }
 
@@ -26,6 +27,7 @@ DrawingLib* Canvas::ActiveBackEnd() const
 void Canvas::Bind()
 {
     boundType = g_renderingType;
+    record.ForgetWindow();
     isBoundWithoutSize = IsRectEmpty(&owner.Screen()) != 0;
     const Use use(*this);
     if (DrawingLib* backEnd = ActiveBackEnd()) {
@@ -44,6 +46,7 @@ void Canvas::SetUpSurface()
 {
     const Use use(*this);
     surfaceIsStale = false;
+    record.Forget();
     ReleaseSurface();
     if (DrawsIntoMemory(GetRenderingType())) {
         const RECT& screen = owner.Screen();
@@ -58,6 +61,7 @@ void Canvas::SetUpSurface()
 void Canvas::FollowScreen()
 {
     surfaceIsStale = true;
+    record.ForgetWindow();
     if (!HasWindow_()) {
         return;
     }
@@ -70,7 +74,7 @@ void Canvas::FollowScreen()
     }
 }
 
-void Canvas::Paint()
+void Canvas::Paint(bool isOwn)
 {
     const Use use(*this);
     if (!DrawsIntoMemory(GetRenderingType())) {
@@ -82,7 +86,7 @@ void Canvas::Paint()
     if (DrawsIntoMemory(boundType) && (surfaceIsStale || surface.DC() == nullptr)) {
         SetUpSurface();
     }
-    PaintFromMemory_();
+    PaintFromMemory_(isOwn);
 }
 
 void Canvas::PaintComposed_()
@@ -97,11 +101,14 @@ void Canvas::PaintComposed_()
     }
 }
 
-void Canvas::PaintFromMemory_()
+void Canvas::PaintFromMemory_(bool isOwn)
 {
     const PaintSession paint(owner.Window());
     if (!HasWindow_()) {
         return;
+    }
+    if (!isOwn) {
+        AddWanted(paint.Area());
     }
     const WindowDC dc(owner.Window());
     SetBkColor(dc.Get(), g_colorKey);
@@ -117,21 +124,57 @@ void Canvas::PaintFromMemory_()
 
 void Canvas::ShowMemory_(HDC target)
 {
-    RECT client{};
-    GetClientRect(owner.Window(), &client);
     // A back-end that has not been bound to the window does not know the key: nothing of it is shown.
     if (g_renderingType != boundType && !surface.Clear()) {
         return;
     }
-    surface.CopyTo(target, client, renderScale);
+    if (!KnowsFrames_()) {
+        record.Forget();
+    }
+    if (CopyMemory_(target)) {
+        record.EndFrame();
+    }
 }
+
+// False when nobody knows what the window holds now. What lies above it is no matter: a layered window keeps
+// all that was drawn on it.
+bool Canvas::CopyMemory_(HDC target)
+{
+    RECT client{};
+    const bool isSized = GetClientRect(owner.Window(), &client) != 0;
+    const Clip clip(target, record.ToCopy());
+    return surface.CopyTo(target, client, renderScale) && isSized;
+}
+
+// Texts have no bounds, and only a bitmap of the window's own scale has the window's coordinates. Direct2D
+// moves what it draws by the screen's corner.
+bool Canvas::KnowsFrames_() const
+{
+    if (g_renderingType != boundType || renderScale != 1.0 || GetDebugLevel() != NONE) {
+        return false;
+    }
+    const RECT& screen = owner.Screen();
+    return boundType == RenderingType::GDI ||
+           (boundType == RenderingType::Direct2D && screen.left == 0 && screen.top == 0);
+}
+
+void Canvas::AddWanted(const RECT& part) { record.AddWanted({part.left, part.top, part.right, part.bottom}); }
 
 DrawingLib* Canvas::WindowedBackEnd_() const { return HasWindow_() ? ActiveBackEnd() : nullptr; }
 
 void Canvas::BeginFrame()
 {
     if (DrawingLib* backEnd = WindowedBackEnd_()) {
+        if (!KnowsFrames_()) {
+            record.Forget();
+        }
+        const PaintArea cleared = record.BeginFrame();
+        // Direct2D always sends a whole bitmap.
+        Clip clip(boundType == RenderingType::GDI ? surface.DC() : nullptr, cleared);
         backEnd->Clear();
+        if (!clip.Remove()) {
+            surfaceIsStale = true; // the next paint makes another one, without a clip
+        }
     }
 }
 
@@ -139,6 +182,7 @@ void Canvas::EndFrame()
 {
     if (DrawingLib* backEnd = WindowedBackEnd_()) {
         if (GetDebugLevel() != NONE) {
+            record.ForgetBitmap();
             owner.DrawInformation(*backEnd);
         }
         backEnd->Present();

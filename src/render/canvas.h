@@ -4,6 +4,7 @@
 
 #include "render/drawing_lib.h"
 #include "render/memory_surface.h"
+#include "render/paint_area.h"
 #include "render/rendering_type.h"
 
 #include <array>
@@ -31,8 +32,8 @@ protected:
 // For the window's thread. Each consultation of the active type writes its line to the log.
 class Canvas {
 public:
-    using BackEndMaker = std::unique_ptr<DrawingLib> (*)();
-    using BackEndMakers = std::array<BackEndMaker, 3>; // by RenderingType
+    using BackEndMaker = std::unique_ptr<DrawingLib> (*)(PaintRecord& record); // which outlives what is made
+    using BackEndMakers = std::array<BackEndMaker, 3>;                         // by RenderingType
 
     Canvas(CanvasOwner& owner, const BackEndMakers& makers);
     ~Canvas() = default;
@@ -63,11 +64,20 @@ public:
     void ClearWindowIfMemoryDrawn() const;
     void SetUpSurface();
 
+    // What a frame draws: a line, before it is drawn, and what has no bounds.
+    void AddLine(int x1, int y1, int x2, int y2, unsigned width) { record.AddLine(x1, y1, x2, y2, width); }
+    void AddText() { record.ForgetBitmap(); }
+
+    // Somebody else has drawn on the window, or wants a part of it anew.
+    void ForgetWindow() { record.ForgetWindow(); }
+    void AddWanted(const RECT& part);
+
     // The owner's screen has another place or size, and the window follows it already.
     void FollowScreen();
 
-    // Serves WM_PAINT: asks the owner for a frame and shows it.
-    void Paint();
+    // Serves WM_PAINT: asks the owner for a frame and shows it. One that the owner has not asked for itself
+    // wants the part of the window that the system tells.
+    void Paint(bool isOwn);
 
     // The ends of a frame. Nothing happens without a window: nobody would see it.
     void BeginFrame();
@@ -82,10 +92,13 @@ private:
     DrawingLib* WindowedBackEnd_() const;
     void SetMemoryDCEverywhere_(HDC dc);
     void PaintComposed_();
-    void PaintFromMemory_();
+    void PaintFromMemory_(bool isOwn);
     void ShowMemory_(HDC target);
+    bool KnowsFrames_() const;
+    bool CopyMemory_(HDC target);
 
     CanvasOwner& owner;
+    PaintRecord record;                                // of the bitmap and the window
     std::vector<std::unique_ptr<DrawingLib>> backEnds; // the index is the RenderingType
     MemorySurface surface;
     double renderScale = 1.0;    // pixels of the bitmap for one of the window's; nothing changes it

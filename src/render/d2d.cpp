@@ -9,7 +9,8 @@
 
 namespace zq::LM {
 
-D2D::D2D() : clearColour(std::make_unique<D2D1_COLOR_F>(D2D1_COLOR_F{0.0F, 0.0F, 0.0F, 1.0F}))
+D2D::D2D(PaintRecord& record)
+    : record(record), clearColour(std::make_unique<D2D1_COLOR_F>(D2D1_COLOR_F{0.0F, 0.0F, 0.0F, 1.0F}))
 {
     SetUp_(); // a failure shows as a missing render target
 }
@@ -86,6 +87,9 @@ bool D2D::Present()
         return false;
     }
     const HRESULT result = renderTarget->EndDraw();
+    if (result != S_OK) {
+        record.ForgetBitmap();
+    }
     return result == S_OK || result == static_cast<HRESULT>(D2DERR_RECREATE_TARGET);
 }
 

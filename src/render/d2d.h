@@ -10,6 +10,7 @@
 
 #include "render/d2d_headers.h"
 #include "render/drawing_lib.h"
+#include "render/paint_area.h"
 
 #include <dwrite.h>
 #include <wrl/client.h>
@@ -21,8 +22,9 @@ namespace zq::LM {
 class D2D final : public DrawingLib {
 public:
     // Ready but for a bitmap, so that a choice of the user's finds it so. What could not be made stays
-    // missing, and with it what it would have drawn.
-    D2D();
+    // missing, and with it what it would have drawn. The record hears of frames that the bitmap does not
+    // hold.
+    explicit D2D(PaintRecord& record);
     ~D2D() override;
     D2D(const D2D&) = delete;
     D2D& operator=(const D2D&) = delete;
@@ -60,6 +62,7 @@ private:
     bool IsReady_() const { return renderTarget != nullptr; }
     bool CanDraw_() const { return IsReady_() && isBound; }
 
+    PaintRecord& record; // the Core's
     HWND window = nullptr;
     HDC dc = nullptr; // the Core's
     ComPtr<IDWriteFactory> writeFactory;

@@ -10,7 +10,7 @@
 
 namespace zq::LM {
 
-GDI::GDI()
+GDI::GDI(PaintRecord& record) : record(record)
 {
     LogAtNormal(L"zq::LM::GDI::GDI(Constructor)\n");
     startupInput = std::make_unique<Gdiplus::GdiplusStartupInput>();
@@ -43,8 +43,10 @@ bool GDI::Clear()
     }
     // As large as the window, which at the one scale there is, 1, is as large as the bitmap.
     RECT client{};
-    GetClientRect(window, &client);
-    FillRectangle(dc, client, keyColour); // failed, the frame is drawn over the one before
+    const bool isSized = GetClientRect(window, &client) != 0;
+    if (!FillRectangle(dc, client, keyColour) || !isSized) {
+        record.ForgetBitmap(); // the frame is drawn over the one before
+    }
     return true;
 }
 

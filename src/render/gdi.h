@@ -8,6 +8,7 @@
 #pragma once
 
 #include "render/drawing_lib.h"
+#include "render/paint_area.h"
 
 #include <cstdint>
 #include <memory>
@@ -20,8 +21,9 @@ namespace zq::LM {
 
 class GDI final : public DrawingLib {
 public:
-    // Starts GDI+, so that a choice of the user's finds it running.
-    GDI();
+    // Starts GDI+, so that a choice of the user's finds it running. The record hears of a bitmap that could
+    // not be cleared.
+    explicit GDI(PaintRecord& record);
     ~GDI() override;
     GDI(const GDI&) = delete;
     GDI& operator=(const GDI&) = delete;
@@ -46,6 +48,7 @@ public:
 private:
     bool IsReady_() const { return dc != nullptr; }
 
+    PaintRecord& record; // the Core's
     HWND window = nullptr;
     HDC dc = nullptr; // the Core's
     std::uint32_t keyColour = 0;

@@ -40,19 +40,19 @@ void MemorySurface::Release()
     bitmap.reset();
 }
 
-void MemorySurface::CopyTo(HDC target, const RECT& client, double scale) const
+bool MemorySurface::CopyTo(HDC target, const RECT& client, double scale) const
 {
     const int shownWidth = client.right - client.left;
     const int shownHeight = client.bottom - client.top;
     if (scale == 1.0) {
-        BitBlt(target, client.left, client.top, shownWidth, shownHeight, dc.get(), client.left, client.top,
-               SRCCOPY);
-        return;
+        return BitBlt(target, client.left, client.top, shownWidth, shownHeight, dc.get(), client.left,
+                      client.top, SRCCOPY) != 0;
     }
     SetStretchBltMode(target, HALFTONE);
     // The source's y is the left edge too: both are 0 for a client rectangle.
-    StretchBlt(target, client.left, client.top, shownWidth, shownHeight, dc.get(), client.left, client.left,
-               static_cast<int>(shownWidth * scale), static_cast<int>(shownHeight * scale), SRCCOPY);
+    return StretchBlt(target, client.left, client.top, shownWidth, shownHeight, dc.get(), client.left,
+                      client.left, static_cast<int>(shownWidth * scale),
+                      static_cast<int>(shownHeight * scale), SRCCOPY) != 0;
 }
 
 } // namespace zq::LM

@@ -24,8 +24,8 @@ public:
 
     HDC DC() const { return dc.get(); } // null while there is no surface
 
-    // `scale` is how many of its pixels make one of the window's.
-    void CopyTo(HDC target, const RECT& client, double scale) const;
+    // `scale` is how many of its pixels make one of the window's. False when the system refuses.
+    bool CopyTo(HDC target, const RECT& client, double scale) const;
 
 private:
     MemoryDC dc;

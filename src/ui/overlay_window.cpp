@@ -9,6 +9,7 @@
 
 #include <cwchar>
 #include <iterator>
+#include <utility>
 
 namespace zq::LM {
 
@@ -88,9 +89,12 @@ LRESULT OverlayWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM
         return 0;
     case WM_PAINT:
         Log(g_frameLogLevel, L"WM_PAINT ... ");
-        events.OnPaint();
+        events.OnPaint(std::exchange(isInvalidated, false));
         Log(g_frameLogLevel, L"done\n");
         return 0;
+    case WM_ERASEBKGND:
+        events.OnErased();
+        return DefWindowProcW(handle, message, wParam, lParam);
     case WM_COMMAND:
         LogAtNormal(L"WM_COMMAND ... ");
         events.OnCommand(LOWORD(wParam));
@@ -193,6 +197,9 @@ void OverlayWindow::Invalidate()
 {
     if (window == nullptr) {
         return; // a null window would be the whole desktop
+    }
+    if (RECT part{}; !std::exchange(isInvalidated, true) && GetUpdateRect(window, &part, FALSE) != 0) {
+        events.OnWanted(part);
     }
     Log(g_frameLogLevel, L"InvalidateRect is called.\n");
     InvalidateRect(window, nullptr, FALSE);

@@ -10,8 +10,10 @@ namespace zq::LM {
 // What the overlay window tells its owner: inside the window's messages, on its thread.
 class WindowEvents {
 public:
-    virtual void OnCreated() = 0; // the handle is known; nothing is set up yet
-    virtual void OnPaint() = 0;
+    virtual void OnCreated() = 0;                // the handle is known; nothing is set up yet
+    virtual void OnPaint(bool isOwn) = 0;        // isOwn: the overlay has asked for it itself
+    virtual void OnWanted(const RECT& part) = 0; // of the window, by somebody else, before the overlay asked
+    virtual void OnErased() = 0;                 // the window's content is not what was painted
     virtual void OnTick() = 0;
     virtual void OnCommand(unsigned id) = 0;
     virtual void OnMenuWanted() = 0; // by the mouse on the tray icon or by the hotkey
@@ -83,7 +85,8 @@ private:
     WindowEvents& events;
     HWND window = nullptr;
     bool isCreating = false;
-    UINT shellRestarted = 0; // a message that the system numbers; 0 while nobody listens
+    bool isInvalidated = false; // by this object, and not painted yet
+    UINT shellRestarted = 0;    // a message that the system numbers; 0 while nobody listens
     WNDCLASSEXW windowClass{};
     wchar_t className[256]{};
     RECT screen;              // the shell's desktop, or a stand-in when there is no shell

@@ -65,6 +65,7 @@ public:
     PaintSession& operator=(const PaintSession&) = delete;
 
     HDC Get() const { return paint.hdc; }
+    const RECT& Area() const { return paint.rcPaint; }
 
 private:
     HWND window;

@@ -17,7 +17,7 @@ public:
     void Refresh() override { Note("view refreshed"); }
 };
 
-template <int place> std::unique_ptr<DrawingLib> MakeFakeBackEnd()
+template <int place> std::unique_ptr<DrawingLib> MakeFakeBackEnd(PaintRecord&)
 {
     auto backEnd = std::make_unique<FakeBackEnd>(place, *g_log);
     g_backEnds[place] = backEnd.get();
@@ -34,7 +34,7 @@ const Makers FakeMakers = {
     .brushDataServer = LibraryMakers.brushDataServer,
 };
 
-std::unique_ptr<DrawingLib> NoBackEnd() { return nullptr; }
+std::unique_ptr<DrawingLib> NoBackEnd(PaintRecord&) { return nullptr; }
 
 void Note(const std::string& line) { g_log->AddLine(line); }
 

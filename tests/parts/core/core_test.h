@@ -24,7 +24,7 @@ using Lines = std::vector<std::string>;
 // The makers of a Core with three fake back-ends and a view that only notes what it is asked; without a
 // server.
 extern const Makers FakeMakers;
-std::unique_ptr<DrawingLib> NoBackEnd();
+std::unique_ptr<DrawingLib> NoBackEnd(PaintRecord& record);
 
 // Among the calls of the test that runs.
 void Note(const std::string& line);

@@ -114,6 +114,20 @@ TEST_F(CoreFrameTest, AnExceptionOfAFrameStaysInsideForGDI)
     ExpectOneFrameLost(RenderingType::GDI, [] { throw std::runtime_error("lost"); });
 }
 
+TEST_F(CoreFrameTest, TheFrameAfterALostOneIsWhole)
+{
+    CreateWindowed(RenderingType::GDI);
+    CallsOfOnePaint();
+    calls.Record<"IntersectClipRect">(IntersectClipRect);
+    CallsOfOnePaint();
+    EXPECT_EQ(calls.Count("IntersectClipRect"), 0U);
+    BackEnd(RenderingType::GDI).whenCleared = [] { throw std::runtime_error("lost"); };
+    CallsOfOnePaint();
+    BackEnd(RenderingType::GDI).whenCleared = nullptr;
+    CallsOfOnePaint();
+    EXPECT_EQ(calls.Count("IntersectClipRect"), 0U);
+}
+
 TEST_F(CoreFrameTest, AnExceptionOfAFrameStaysInsideForDirectComposition)
 {
     ExpectOneFrameLost(RenderingType::DirectComposition, [] { throw std::bad_alloc(); });

@@ -13,7 +13,7 @@ D2DTest::~D2DTest() { DestroyWindow(window); }
 
 Lines D2DTest::MakeBackEnd()
 {
-    backEnd = std::make_unique<D2D>();
+    backEnd = std::make_unique<D2D>(record);
     return graphics.Take();
 }
 

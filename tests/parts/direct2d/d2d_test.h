@@ -63,6 +63,7 @@ protected:
     ShellStandIn shell{Program(), {0, 0, Width, Height}};
     TestBitmap bitmap{Width, Height, Green};
     CompositionStandIn graphics{Program()};
+    PaintRecord record;
     std::unique_ptr<D2D> backEnd;
 };
 

@@ -67,7 +67,7 @@ TEST_F(D2DDrawingTest, KeysRedAndBlueAreTakenCrosswise)
 
 TEST_F(D2DDrawingTest, FrameOfAnUnboundWindowBeginsInBlack)
 {
-    backEnd = std::make_unique<D2D>();
+    backEnd = std::make_unique<D2D>(record);
     backEnd->SetMemoryDC(bitmap.DC());
     graphics.Take();
     backEnd->Clear();
@@ -91,6 +91,21 @@ TEST_F(D2DDrawingTest, PresentIsFalseForEveryOtherResult)
         backEnd->Clear();
         graphics.Answer("DCRenderTarget.EndDraw", result);
         EXPECT_FALSE(backEnd->Present()) << std::hex << result;
+    }
+}
+
+// The bitmap has the frame before, or a part of this one.
+TEST_F(D2DDrawingTest, FrameThatWasNotDrawnLeavesTheBitmapUnknown)
+{
+    for (const HRESULT result : {S_OK, E_FAIL, static_cast<HRESULT>(0x8899000C)}) {
+        record.BeginFrame();
+        record.EndFrame();
+        record.BeginFrame();
+        backEnd->Clear();
+        graphics.Answer("DCRenderTarget.EndDraw", result);
+        backEnd->Present();
+        EXPECT_EQ(record.ToCopy().IsEverything(), result != S_OK) << std::hex << result;
+        record.EndFrame();
     }
 }
 

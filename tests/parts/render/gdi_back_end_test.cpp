@@ -47,7 +47,8 @@ TEST(GdiLog, ConstructionAndDestructionAreWideLinesAtLevel2)
     const LogLevel level(NORMAL);
     const RecordedLog log;
     {
-        const GDI gdi;
+        PaintRecord record;
+        const GDI gdi(record);
         EXPECT_THAT(log.Lines(), ElementsAre(LogLine{true, "zq::LM::GDI::GDI(Constructor)\n"}));
     }
     EXPECT_THAT(log.Lines(), ElementsAre(LogLine{true, "zq::LM::GDI::GDI(Constructor)\n"},
@@ -57,7 +58,8 @@ TEST(GdiLog, ConstructionAndDestructionAreWideLinesAtLevel2)
 TEST(GdiLog, BindingToAWindowIsALineWithoutAnEnd)
 {
     const HiddenWindow window(10, 10);
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi(record);
     const LogLevel level(NORMAL);
     const RecordedLog log;
     gdi.InitTransparentWindow(window.Get(), Key);
@@ -70,7 +72,8 @@ TEST(GdiLog, NothingIsWrittenAtLevel1)
     const LogLevel level(BASIC);
     const RecordedLog log;
     {
-        GDI gdi;
+        PaintRecord record;
+        GDI gdi(record);
         gdi.InitTransparentWindow(window.Get(), Key);
     }
     EXPECT_THAT(log.Lines(), IsEmpty());
@@ -98,7 +101,8 @@ TEST_F(GdiLife, GdiPlusRunsFromConstructionToDestruction)
         return Gdiplus::Ok;
     });
     {
-        const GDI gdi;
+        PaintRecord record;
+        const GDI gdi(record);
         EXPECT_EQ(startup.Count(), 1U);
         EXPECT_EQ(shutdown.Count(), 0U);
     }
@@ -116,7 +120,8 @@ TEST_F(GdiLife, AFailedStartIsNotNoticedAndTheRestWorks)
     const HiddenWindow window(40, 40);
     const TestBitmap bitmap(40, 40, Green);
     {
-        GDI gdi;
+        PaintRecord record;
+        GDI gdi(record);
         gdi.InitTransparentWindow(window.Get(), Key);
         gdi.SetMemoryDC(bitmap.DC());
         gdi.DrawLine(5, 20, 8, 0xFF0000FF, 35, 20, 8, 0xFF0000FF);
@@ -130,7 +135,8 @@ TEST(GdiBinding, MakesTheWindowSeeThroughInTheKeyAndThreeQuartersOpaque)
 {
     const HiddenWindow window(10, 10);
     SetWindowLongW(window.Get(), GWL_EXSTYLE, WS_EX_LAYERED);
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi(record);
     EXPECT_TRUE(gdi.InitTransparentWindow(window.Get(), Key));
     COLORREF key = 0;
     BYTE opacity = 0;
@@ -147,7 +153,8 @@ protected:
 
     const HiddenWindow window{60, 40};
     const TestBitmap bitmap{100, 100, Green}; // larger than the window
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi{record};
 };
 
 TEST_F(GdiClear, WithoutAMemoryBitmapSaysSoAndDrawsNothing)
@@ -185,6 +192,34 @@ TEST_F(GdiClear, FillsTheWindowsSizeWithTheKeyAndGivesItsBrushBack)
     EXPECT_EQ(picture.At(59, 40), Green);
 }
 
+// The frame is drawn over the one before.
+TEST_F(GdiClear, FailedLeavesTheBitmapUnknown)
+{
+    gdi.SetMemoryDC(bitmap.DC());
+    record.BeginFrame();
+    record.EndFrame();
+    record.BeginFrame();
+    gdi.Clear();
+    EXPECT_FALSE(record.ToCopy().IsEverything());
+    {
+        test::Hook<"PatBlt", decltype(PatBlt)> fills(GetModuleHandleW(nullptr));
+        fills.Fail(FALSE);
+        EXPECT_TRUE(gdi.Clear());
+    }
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+}
+
+TEST_F(GdiClear, WithoutTheWindowsSizeLeavesTheBitmapUnknown)
+{
+    gdi.SetMemoryDC(bitmap.DC());
+    gdi.InitTransparentWindow(nullptr, Key);
+    record.BeginFrame();
+    record.EndFrame();
+    record.BeginFrame();
+    EXPECT_TRUE(gdi.Clear());
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+}
+
 TEST_F(GdiClear, UsesTheKeyThatItWasGiven)
 {
     gdi.InitTransparentWindow(window.Get(), 0x00123456);
@@ -197,7 +232,8 @@ TEST(GdiEmptyOperations, AskNothingOfTheSystemAndChangeNoPixel)
 {
     const HiddenWindow window(30, 30);
     const TestBitmap bitmap(30, 30, Green);
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi(record);
     gdi.InitTransparentWindow(window.Get(), Key);
     gdi.SetMemoryDC(bitmap.DC());
     {
@@ -218,14 +254,16 @@ TEST(GdiEmptyOperations, AskNothingOfTheSystemAndChangeNoPixel)
 
 TEST(GdiEmptyOperations, PresentSucceedsBeforeAnythingIsBound)
 {
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi(record);
     EXPECT_TRUE(gdi.Present());
 }
 
 TEST(GdiWithoutBitmap, EveryOperationIsHarmlessAndALaterBitmapIsDrawnOn)
 {
     const TestBitmap bitmap(40, 40, Green);
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi(record);
     gdi.DrawLine(0, 0, 10, 0xFF0000FF, 20, 20, 10, 0xFF0000FF);
     gdi.DrawText(L"text", 0, 0, 0x000000FF);
     gdi.FillRect(0, 0, 10, 10, 0xFF0000FF);

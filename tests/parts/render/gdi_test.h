@@ -21,7 +21,8 @@ protected:
     }
 
     TestBitmap bitmap;
-    GDI gdi;
+    PaintRecord record;
+    GDI gdi{record};
 };
 
 } // namespace zq::LM::test

@@ -1,0 +1,295 @@
+// Which part of bitmap and window a frame has to touch, beside a picture that is drawn pixel by pixel.
+#include "render/paint_area.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace zq::LM::test {
+
+namespace {
+
+constexpr std::int32_t Lowest = (std::numeric_limits<std::int32_t>::min)();
+
+PaintRectangle BoundsOfLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                            std::uint32_t width)
+{
+    PaintArea area;
+    area.AddLine(x1, y1, x2, y2, width);
+    EXPECT_FALSE(area.IsEverything());
+    return area.Bounds();
+}
+
+TEST(PaintArea, BeginsEmpty)
+{
+    EXPECT_TRUE(PaintArea().Bounds().IsEmpty());
+    EXPECT_FALSE(PaintArea().IsEverything());
+}
+
+TEST(PaintArea, LineReachesHalfItsWidthAndTwoPixelsMore)
+{
+    EXPECT_EQ(BoundsOfLine(10, 20, 30, 25, 6), (PaintRectangle{5, 15, 36, 31}));
+    EXPECT_EQ(BoundsOfLine(30, 25, 10, 20, 7), (PaintRectangle{4, 14, 37, 32}));
+}
+
+TEST(PaintArea, DotOfNoWidthIsNotEmpty)
+{
+    EXPECT_EQ(BoundsOfLine(10, 20, 10, 20, 0), (PaintRectangle{8, 18, 13, 23}));
+}
+
+TEST(PaintArea, FarLinesAreEverything)
+{
+    for (const std::int32_t far : {16'384, -16'384, (std::numeric_limits<std::int32_t>::max)(), Lowest}) {
+        for (int which = 0; which < 4; ++which) {
+            std::array<std::int32_t, 4> line = {1, 2, 3, 4};
+            line.at(static_cast<std::size_t>(which)) = far;
+            PaintArea area;
+            area.AddLine(line[0], line[1], line[2], line[3], 6);
+            EXPECT_TRUE(area.IsEverything()) << far << " as number " << which;
+        }
+    }
+}
+
+TEST(PaintArea, WideLinesAreEverything)
+{
+    for (const std::uint32_t width : {4'097U, 0x80000000U, 0xFFFFFFFFU}) {
+        PaintArea area;
+        area.AddLine(1, 2, 3, 4, width);
+        EXPECT_TRUE(area.IsEverything()) << width;
+    }
+}
+
+TEST(PaintArea, LargestLinesHaveBounds)
+{
+    EXPECT_EQ(BoundsOfLine(-16'383, -16'383, 16'383, 16'383, 4'096),
+              (PaintRectangle{-18'433, -18'433, 18'434, 18'434}));
+}
+
+TEST(PaintArea, SumIsOneRectangleAroundBoth)
+{
+    PaintArea area;
+    area.Add(PaintRectangle{10, 10, 20, 20});
+    area.Add(PaintRectangle{15, 5, 30, 12});
+    area.Add(PaintRectangle{});
+    EXPECT_EQ(area.Bounds(), (PaintRectangle{10, 5, 30, 20}));
+}
+
+TEST(PaintArea, SumWithEverythingIsEverything)
+{
+    PaintArea area;
+    area.Add(PaintRectangle{10, 10, 20, 20});
+    area.Add(PaintArea::Everything());
+    EXPECT_TRUE(area.IsEverything());
+}
+
+void EmptyFrame(PaintRecord& record)
+{
+    record.BeginFrame();
+    record.EndFrame();
+}
+
+TEST(PaintRecord, FirstFrameIsWhole)
+{
+    PaintRecord record;
+    EXPECT_TRUE(record.BeginFrame().IsEverything());
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+}
+
+TEST(PaintRecord, FrameClearsWhatTheOneBeforeDrewAndCopiesBoth)
+{
+    PaintRecord record;
+    record.BeginFrame();
+    record.AddLine(100, 100, 110, 100, 0);
+    record.EndFrame();
+    EXPECT_EQ(record.BeginFrame().Bounds(), (PaintRectangle{98, 98, 113, 103}));
+    record.AddLine(200, 100, 210, 100, 0);
+    const PaintArea copied = record.ToCopy();
+    EXPECT_FALSE(copied.IsEverything());
+    EXPECT_EQ(copied.Bounds(), (PaintRectangle{98, 98, 213, 103}));
+}
+
+TEST(PaintRecord, EmptyFramesTouchNothing)
+{
+    PaintRecord record;
+    EmptyFrame(record);
+    EXPECT_FALSE(record.BeginFrame().IsEverything());
+    EXPECT_FALSE(record.ToCopy().IsEverything());
+    EXPECT_TRUE(record.ToCopy().Bounds().IsEmpty());
+}
+
+TEST(PaintRecord, WantedPartIsCopiedOnce)
+{
+    PaintRecord record;
+    EmptyFrame(record);
+    record.AddWanted({5, 6, 7, 8});
+    record.BeginFrame();
+    record.AddLine(100, 100, 110, 100, 0);
+    EXPECT_EQ(record.ToCopy().Bounds(), (PaintRectangle{5, 6, 113, 103}));
+    record.EndFrame();
+    EXPECT_EQ(record.ToCopy().Bounds(), (PaintRectangle{98, 98, 113, 103}));
+}
+
+TEST(PaintRecord, FrameThatDidNotEndMakesTheNextOneWhole)
+{
+    PaintRecord record;
+    EmptyFrame(record);
+    record.BeginFrame(); // and an exception, or a call that failed
+    EXPECT_TRUE(record.BeginFrame().IsEverything());
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+    record.EndFrame();
+    EXPECT_FALSE(record.BeginFrame().IsEverything());
+}
+
+TEST(PaintRecord, ForgottenBitmapIsClearedWhole)
+{
+    PaintRecord record;
+    EmptyFrame(record);
+    record.ForgetBitmap();
+    EXPECT_TRUE(record.BeginFrame().IsEverything());
+    EXPECT_FALSE(record.ToCopy().IsEverything()) << "what is cleared is the key that the window shows";
+    record.EndFrame();
+    EXPECT_FALSE(record.BeginFrame().IsEverything());
+}
+
+TEST(PaintRecord, BitmapForgottenInAFrameIsCopiedWholeAndTheNextOneToo)
+{
+    PaintRecord record;
+    EmptyFrame(record);
+    record.BeginFrame();
+    record.ForgetBitmap();
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+    record.EndFrame();
+    EXPECT_TRUE(record.BeginFrame().IsEverything());
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+    record.EndFrame();
+    EXPECT_FALSE(record.BeginFrame().IsEverything());
+    EXPECT_FALSE(record.ToCopy().IsEverything());
+}
+
+TEST(PaintRecord, ForgottenWindowIsCopiedWhole)
+{
+    PaintRecord record;
+    EmptyFrame(record);
+    record.ForgetWindow();
+    EXPECT_FALSE(record.BeginFrame().IsEverything());
+    EXPECT_TRUE(record.ToCopy().IsEverything());
+    record.EndFrame();
+    EXPECT_FALSE(record.ToCopy().IsEverything());
+}
+
+// Bitmap and window as grids of pixels: 0 is the key, -1 what nobody has drawn yet.
+constexpr std::int32_t Size = 40;
+using Grid = std::array<int, static_cast<std::size_t>(Size) * Size>;
+
+template <typename Change> void ForEach(const PaintArea& area, Change change)
+{
+    const PaintRectangle& bounds = area.Bounds();
+    for (std::int32_t y = 0; y < Size; ++y) {
+        for (std::int32_t x = 0; x < Size; ++x) {
+            if (area.IsEverything() ||
+                (x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom)) {
+                change(static_cast<std::size_t>(y * Size + x));
+            }
+        }
+    }
+}
+
+double DistanceToLine(double x, double y, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2)
+{
+    const double length = std::hypot(x2 - x1, y2 - y1);
+    double share = length > 0 ? ((x - x1) * (x2 - x1) + (y - y1) * (y2 - y1)) / (length * length) : 0;
+    share = std::fmin(std::fmax(share, 0), 1);
+    return std::hypot(x - (x1 + share * (x2 - x1)), y - (y1 + share * (y2 - y1)));
+}
+
+class Picture {
+public:
+    Picture()
+    {
+        bitmap.fill(-1);
+        window.fill(-1);
+    }
+
+    void Frame(std::mt19937& random)
+    {
+        ForEach(record.BeginFrame(), [this](std::size_t i) { bitmap[i] = 0; });
+        Grid wanted{};
+        for (unsigned lines = random() % 4; lines > 0; --lines) {
+            Line_(random, wanted);
+        }
+        ASSERT_EQ(bitmap, wanted);
+        if (random() % 8 == 0) {
+            return; // the copy fails
+        }
+        ForEach(record.ToCopy(), [this](std::size_t i) { window[i] = bitmap[i]; });
+        record.EndFrame();
+        ASSERT_EQ(window, wanted);
+    }
+
+    void EraseWindow()
+    {
+        window.fill(-1);
+        record.ForgetWindow();
+    }
+
+    void MakeBitmapAnew()
+    {
+        bitmap.fill(-1);
+        record.ForgetBitmap();
+    }
+
+private:
+    // Drawn a pixel and a half wider than asked for: nobody knows how a system rounds.
+    void Line_(std::mt19937& random, Grid& wanted)
+    {
+        const auto coordinate = [&random] { return static_cast<std::int32_t>(random() % (Size + 20)) - 10; };
+        const std::int32_t x1 = coordinate();
+        const std::int32_t y1 = coordinate();
+        const std::int32_t x2 = coordinate();
+        const std::int32_t y2 = coordinate();
+        const std::uint32_t width = static_cast<std::uint32_t>(random() % 9);
+        const int colour = 1 + static_cast<int>(random() % 5);
+        record.AddLine(x1, y1, x2, y2, width);
+        for (std::int32_t y = 0; y < Size; ++y) {
+            for (std::int32_t x = 0; x < Size; ++x) {
+                if (DistanceToLine(x, y, x1, y1, x2, y2) <= width / 2.0 + 1.5) {
+                    const auto index = static_cast<std::size_t>(y * Size + x);
+                    bitmap[index] = colour;
+                    wanted[index] = colour;
+                }
+            }
+        }
+    }
+
+    PaintRecord record;
+    Grid bitmap;
+    Grid window;
+};
+
+TEST(PaintRecord, RandomFramesLookAsIfEachWereWhole)
+{
+    for (unsigned seed = 0; seed < 40; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        Picture picture;
+        for (int frame = 0; frame < 50; ++frame) {
+            if (random() % 10 == 0) {
+                picture.EraseWindow();
+            }
+            if (random() % 10 == 0) {
+                picture.MakeBitmapAnew();
+            }
+            picture.Frame(random);
+            if (testing::Test::HasFatalFailure()) {
+                return;
+            }
+        }
+    }
+}
+
+} // namespace
+
+} // namespace zq::LM::test
