@@ -1,7 +1,7 @@
 // What a host hands its samples to: the library, or the least that draws the same.
 #pragma once
 
-#include "lumora/records.h"
+#include "lumora/lumora.hpp"
 
 #include <windows.h>
 
@@ -27,7 +27,7 @@ public:
 };
 
 // Both throw lumora::Error.
-std::unique_ptr<InkSink> MakeLibrarySink(const std::filesystem::path& library); // by GDI
+std::unique_ptr<InkSink> MakeLibrarySink(const std::filesystem::path& library, BackEnd backEnd);
 std::unique_ptr<InkSink> MakeBareSink();
 
 } // namespace lumora::latency

@@ -1,9 +1,7 @@
-// The library with its GDI back-end, set to draw plain lines of one width.
+// The library with one of its back-ends, set to draw plain lines of one width.
 #include "latency/ink_sink.h"
 
 #include "library_file.h"
-
-#include "lumora/lumora.hpp"
 
 #include <vector>
 
@@ -13,8 +11,8 @@ namespace {
 
 class LibrarySink final : public InkSink {
 public:
-    explicit LibrarySink(const std::filesystem::path& library)
-        : overlay({BackEnd::GDI, 0}, replay::LoadLibraryFile(library))
+    LibrarySink(const std::filesystem::path& library, BackEnd backEnd)
+        : overlay({backEnd, 0}, replay::LoadLibraryFile(library))
     {
         overlay.ChangeParams([](Params& params) {
             params.inkDecayTime = std::chrono::milliseconds(InkLifeMs);
@@ -36,9 +34,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<InkSink> MakeLibrarySink(const std::filesystem::path& library)
+std::unique_ptr<InkSink> MakeLibrarySink(const std::filesystem::path& library, BackEnd backEnd)
 {
-    return std::make_unique<LibrarySink>(library);
+    return std::make_unique<LibrarySink>(library, backEnd);
 }
 
 } // namespace lumora::latency
