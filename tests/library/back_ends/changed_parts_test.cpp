@@ -15,11 +15,13 @@ namespace {
 constexpr RECT SmallScreen = {0, 0, 360, 260};
 constexpr RECT Seen = {0, 0, 440, 340}; // the screens and what lies around them
 
+// LUMORA_TEST_FRAMES makes long scenes, and more of them.
+const char* WantedSteps() { return std::getenv("LUMORA_TEST_FRAMES"); }
+
 int StepCount()
 {
     constexpr int Few = 40;
-    const char* wanted = std::getenv("LUMORA_TEST_FRAMES");
-    return wanted != nullptr ? std::atoi(wanted) : Few;
+    return WantedSteps() != nullptr ? static_cast<int>(std::strtol(WantedSteps(), nullptr, 10)) : Few;
 }
 
 struct Scene {
@@ -31,10 +33,10 @@ std::ostream& operator<<(std::ostream& out, const Scene& scene) { return out << 
 
 std::vector<Scene> AllScenes()
 {
-    const unsigned Seeds = std::getenv("LUMORA_TEST_FRAMES") ? 6 : 2;
+    const unsigned seeds = WantedSteps() != nullptr ? 6 : 2;
     std::vector<Scene> scenes;
     for (const BackEnd& backEnd : {Direct2DBackEnd, GDIBackEnd}) {
-        for (unsigned seed = 0; seed < Seeds; ++seed) {
+        for (unsigned seed = 0; seed < seeds; ++seed) {
             scenes.push_back({backEnd, seed});
         }
     }

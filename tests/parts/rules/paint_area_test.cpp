@@ -184,6 +184,11 @@ TEST(PaintRecord, ForgottenWindowIsCopiedWhole)
 constexpr std::int32_t Size = 40;
 using Grid = std::array<int, static_cast<std::size_t>(Size) * Size>;
 
+std::size_t Index(std::int32_t x, std::int32_t y)
+{
+    return static_cast<std::size_t>(y) * Size + static_cast<std::size_t>(x);
+}
+
 template <typename Change> void ForEach(const PaintArea& area, Change change)
 {
     const PaintRectangle& bounds = area.Bounds();
@@ -191,7 +196,7 @@ template <typename Change> void ForEach(const PaintArea& area, Change change)
         for (std::int32_t x = 0; x < Size; ++x) {
             if (area.IsEverything() ||
                 (x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom)) {
-                change(static_cast<std::size_t>(y * Size + x));
+                change(Index(x, y));
             }
         }
     }
@@ -256,7 +261,7 @@ private:
         for (std::int32_t y = 0; y < Size; ++y) {
             for (std::int32_t x = 0; x < Size; ++x) {
                 if (DistanceToLine(x, y, x1, y1, x2, y2) <= width / 2.0 + 1.5) {
-                    const auto index = static_cast<std::size_t>(y * Size + x);
+                    const auto index = Index(x, y);
                     bitmap[index] = colour;
                     wanted[index] = colour;
                 }
