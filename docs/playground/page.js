@@ -168,4 +168,7 @@ class Page {
 // The defaults' ink lives for a tenth of a second: right below a pen, short for a first look.
 const pageStart = { inkDecayTime: 1500, inkColor: 0x001e14c8 };
 
+if (window.top !== window) {
+    document.querySelector('nav').remove(); // the manual is around it
+}
 new Page().start();
