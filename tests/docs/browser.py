@@ -88,6 +88,10 @@ class Browser:
     def messages(self):
         return [entry["message"] for entry in self.driver.get_log("browser")]
 
+    def faults(self):
+        """Messages but mere information."""
+        return [entry["message"] for entry in self.driver.get_log("browser") if entry["level"] != "INFO"]
+
 
 # A canvas that is read often warns on the console, so a copy is read.
 COPY = """const canvas = document.getElementById('ink');

@@ -166,7 +166,11 @@ class Playground(unittest.TestCase):
         page.pointer("Moved", *place)
         page.next_frame()
         self.assertEqual(page.ink(place[0] - 32, place[1] - 32), (0x26, 0x71, 0xC7, 255))
-        page.stroke([(*place, 1.0), (place[0] + 60, place[1], 1.0)])
+        page.pointer("Pressed", *place, 1.0)
+        page.next_frame()  # which picks; a move before it would pick from there
+        page.pointer("Moved", place[0] + 60, place[1], 1.0)
+        page.pointer("Released", place[0] + 60, place[1])
+        page.next_frame()
         self.assertIn("params.inkColor = 0x00C77126;", page.text("#code"))
         self.assertNotIn("colorPicker", page.text("#code"))
         self.assertEqual(page.ink(place[0] + 30, place[1]), (0x26, 0x71, 0xC7, 255))
