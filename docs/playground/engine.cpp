@@ -41,7 +41,7 @@ void Erase(int x1, int y1, unsigned w1, unsigned, int x2, int y2, unsigned w2, u
     PageErase(x1, y1, x2, y2, zq::LM::MixWidths(w1, w2));
 }
 
-void Path(std::vector<PenData>* samples, unsigned width, unsigned colour)
+void StrokePath(std::vector<PenData>* samples, unsigned width, unsigned colour)
 {
     PagePath(samples->data(), samples->size(), width, colour);
 }
@@ -66,7 +66,7 @@ extern "C" {
 
 FOR_PAGE(bindCallbacks) void BindCallbacks()
 {
-    Engine().SetCallbacks(PageClear, PagePresent, PagePickColour, Line, Erase, Path);
+    Engine().SetCallbacks(PageClear, PagePresent, PagePickColour, Line, Erase, StrokePath);
     Engine().SetDrawTextCallback(PageText);
 }
 

@@ -20,7 +20,7 @@ class Scene {
         const bar = 30;
         context.shadowColor = 'rgba(0, 0, 0, 0.3)';
         context.shadowBlur = 18;
-        context.fillStyle = dark ? '#d5d2ca' : '#fdfcf9';
+        context.fillStyle = dark ? '#c6c3bb' : '#ece8df';
         context.beginPath();
         context.roundRect(left, top, width, height, 8);
         context.fill();
