@@ -203,6 +203,10 @@ class Playground(unittest.TestCase):
             page.click(f"label[for=field-{name}] + .default")
         self.assertEqual(page.text("#code").count("params."), 0)
 
+    def test_the_code_is_copied(self):
+        self.browser.driver.find_element("id", "copy").click()
+        self.browser.wait("return document.getElementById('copied').textContent === 'Copied.'")
+
     def test_the_recording_plays(self):
         page = self.browser
         page.click("input[name=speed][value='1']")
