@@ -25,6 +25,10 @@ benchPackages=(libbenchmark-dev)
 # shellcheck disable=SC2034
 latencyPackages=(libxtst-dev)
 # shellcheck disable=SC2034
+docsPackages=(doxygen emscripten graphviz libjs-jquery mkdocs python3)
+# shellcheck disable=SC2034
+docsTestPackages=(aspell aspell-en g++ chromium chromium-driver python3-selenium)
+# shellcheck disable=SC2034
 bindingPackages=(python3 mono-mcs mono-runtime)
 # Node from elsewhere brings npm along and does not go with Debian's npm.
 command -v npm >/dev/null || bindingPackages+=(nodejs npm)

@@ -1,0 +1,4 @@
+#!/bin/sed -f
+# A comment of our headers as one of Doxygen's. The first one of a file is the file's.
+1s|^/\* |/** \\file\n * |
+2,$s|^\( *\)/\* |\1/** |
