@@ -51,7 +51,7 @@ private:
     void OnCreated() override;
     void OnPaint(bool isOwn) override;
     void OnWanted(const RECT& part) override { canvas.AddWanted(part); }
-    void OnErased() override { canvas.ForgetWindow(); }
+    void OnContentLost() override { canvas.ForgetFrame(); }
     void OnTick() override;
     void OnCommand(unsigned id) override;
     void OnMenuWanted() override { tray.PopUp(); }

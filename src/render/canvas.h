@@ -68,8 +68,9 @@ public:
     void AddLine(int x1, int y1, int x2, int y2, unsigned width) { record.AddLine(x1, y1, x2, y2, width); }
     void AddText() { record.ForgetBitmap(); }
 
-    // Somebody else has drawn on the window, or wants a part of it anew.
-    void ForgetWindow() { record.ForgetWindow(); }
+    // Somebody else has changed the window, its size or what it shows, or wants a part of it anew. A clear
+    // reaches as far as the window, so after another size the bitmap is not known either.
+    void ForgetFrame() { record.Forget(); }
     void AddWanted(const RECT& part);
 
     // The owner's screen has another place or size, and the window follows it already.

@@ -93,7 +93,8 @@ LRESULT OverlayWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM
         Log(g_frameLogLevel, L"done\n");
         return 0;
     case WM_ERASEBKGND:
-        events.OnErased();
+    case WM_SIZE:
+        events.OnContentLost();
         return DefWindowProcW(handle, message, wParam, lParam);
     case WM_COMMAND:
         LogAtNormal(L"WM_COMMAND ... ");

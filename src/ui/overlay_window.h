@@ -13,7 +13,7 @@ public:
     virtual void OnCreated() = 0;                // the handle is known; nothing is set up yet
     virtual void OnPaint(bool isOwn) = 0;        // isOwn: the overlay has asked for it itself
     virtual void OnWanted(const RECT& part) = 0; // of the window, by somebody else, before the overlay asked
-    virtual void OnErased() = 0;                 // the window's content is not what was painted
+    virtual void OnContentLost() = 0;            // the window does not hold what was painted
     virtual void OnTick() = 0;
     virtual void OnCommand(unsigned id) = 0;
     virtual void OnMenuWanted() = 0; // by the mouse on the tray icon or by the hotkey

@@ -149,10 +149,23 @@ TEST_F(ChangedPartTest, WholeAfterTheWindowWasErased)
     InputNothing();
     SendMessageW(library.GetWindowHandle(), WM_ERASEBKGND, 0, 0);
     PaintOnce();
-    EXPECT_EQ(ClearedParts(), Lines{StrokesPart});
-    EXPECT_EQ(CopiedParts(), Lines{});
+    EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
     calls.Take();
     ExpectAConfinedFrame();
+}
+
+// A clear reaches only as far as the window, so the bitmap of a smaller one keeps ink beyond it.
+TEST_F(ChangedPartTest, WholeAfterAResize)
+{
+    CreateWithStroke();
+    const auto resize = [this](int width) {
+        SetWindowPos(library.GetWindowHandle(), nullptr, 0, 0, width, 480,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+    };
+    resize(50);
+    ExpectWholeFrames(1);
+    resize(640);
+    ExpectWholeFrames(1);
 }
 
 TEST_F(ChangedPartTest, WholeOnANewScreen)
