@@ -15,7 +15,7 @@ class BareEngine {
 public:
     BareEngine(const Params& params, SignedLineFunction drawLine, SignedLineFunction eraseLine);
 
-    void Add(const PenData* samples, std::size_t count);
+    void Add(const PenData* samples, std::size_t added);
     void Frame();
     void ClearLive() { live.clear(); }
 
