@@ -1,58 +1,40 @@
-// A frame of the ink engine beside a loop that only makes the same calls.
-#include "ink/drawing.h"
+// A frame of the ink engine beside plain loops of the same arithmetic, and beside the calls alone.
+#include "bare_engine.h"
+#include "engine_ink.h"
 #include "support/fake_clock.h"
 
-#include <benchmark/benchmark.h>
-
-#include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace zq::LM::bench {
 namespace {
 
-// What both sides call in the end: it reads its arguments and returns.
-void TakeLine(int x1, int y1, int w1, unsigned c1, int x2, int y2, int w2, unsigned c2)
-{
-    benchmark::DoNotOptimize(x1 + y1 + w1 + x2 + y2 + w2);
-    benchmark::DoNotOptimize(c1 + c2);
-}
+void Take(std::vector<PenData>*, unsigned, unsigned) {}
 
-void TakeCall() { benchmark::ClobberMemory(); }
-
-// A wave across the screen, as a pen draws it.
-PenData SampleOf(std::int32_t i)
+// The clock stands still: no sample ages.
+void FrameOfTheLibrary(benchmark::State& state, Params (*record)())
 {
-    PenData sample{};
-    sample.time = 1;
-    sample.x = 100 + i;
-    sample.y = 500 + i % 50;
-    sample.pressure = 1 + i * 31 % 32767;
-    return sample;
-}
-
-std::vector<PenData> SamplesOf(std::int64_t segments)
-{
-    std::vector<PenData> samples;
-    for (std::int32_t i = 0; i <= segments; ++i) {
-        samples.push_back(SampleOf(i));
-    }
-    return samples;
-}
-
-void FrameOfTheLibrary(benchmark::State& state)
-{
-    test::SetClock(1000); // stands still: no sample ages
-    Drawing drawing;
-    drawing.SetCallbacks(
-        TakeCall, TakeCall, [](bool) { return 0U; }, TakeLine, TakeLine,
-        [](std::vector<PenData>*, unsigned, unsigned) {});
-    const std::vector<PenData> samples = SamplesOf(state.range(0));
-    drawing.AddPenDataAry(samples.data(), samples.size());
+    test::SetClock(1000);
+    Drawing engine;
+    engine.SetCallbacks(
+        TakeCall, TakeCall, [](bool) { return 0U; }, TakeLine, TakeLine, Take);
+    const Params params = record();
+    engine.SetParams(&params);
+    const std::vector<PenData> samples = Wave(state.range(0));
+    engine.AddPenDataAry(samples.data(), samples.size());
     for ([[maybe_unused]] auto iteration : state) {
-        drawing.DrawLumoraLines();
+        engine.DrawLumoraLines();
     }
-    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BareFrame(benchmark::State& state, Params (*record)())
+{
+    test::SetClock(1000);
+    BareEngine engine(record(), TakeLine, TakeLine);
+    const std::vector<PenData> samples = Wave(state.range(0));
+    engine.Add(samples.data(), samples.size());
+    for ([[maybe_unused]] auto iteration : state) {
+        engine.Frame();
+    }
 }
 
 struct Line {
@@ -60,20 +42,25 @@ struct Line {
     unsigned width;
 };
 
-void FrameOfBareCalls(benchmark::State& state)
+std::vector<Line> LinesOf(const std::vector<PenData>& samples)
 {
-    // The two nested wrappers that the engine calls through, too: signed widths inside unsigned ones.
-    SignedLineFunction signedLine = TakeLine;
-    const LineFunction drawLine = std::move(signedLine);
-    const ClearFunction clear = TakeCall;
-    const PresentFunction present = TakeCall;
-    const std::vector<PenData> samples = SamplesOf(state.range(0));
     std::vector<Line> lines;
     for (std::size_t i = 0; i + 1 < samples.size(); ++i) {
         const PenData& newer = samples[i + 1];
         lines.push_back(
             {samples[i].x, samples[i].y, newer.x, newer.y, SegmentWidth(DefaultParams, newer.pressure)});
     }
+    return lines;
+}
+
+// With ready arguments: what is not arithmetic in a frame.
+void CallsOfAFrame(benchmark::State& state)
+{
+    SignedLineFunction signedLine = TakeLine;
+    const LineFunction drawLine = std::move(signedLine);
+    const ClearFunction clear = TakeCall;
+    const PresentFunction present = TakeCall;
+    const std::vector<Line> lines = LinesOf(Wave(state.range(0)));
     for ([[maybe_unused]] auto iteration : state) {
         clear();
         for (const Line& line : lines) {
@@ -81,11 +68,23 @@ void FrameOfBareCalls(benchmark::State& state)
         }
         present();
     }
-    state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-BENCHMARK(FrameOfTheLibrary)->Name("frame/library")->Arg(1)->Arg(30)->Arg(300)->Arg(1000);
-BENCHMARK(FrameOfBareCalls)->Name("frame/bare")->Arg(1)->Arg(30)->Arg(300)->Arg(1000);
+void Sizes(benchmark::internal::Benchmark* benchmark)
+{
+    for (const int size : {2, 10, 100, 1000, 10'000}) {
+        benchmark->Arg(size);
+    }
+}
+
+BENCHMARK_CAPTURE(FrameOfTheLibrary, main, MainOnly)->Name("frame/library")->Apply(Sizes);
+BENCHMARK_CAPTURE(BareFrame, main, MainOnly)->Name("frame/bare")->Apply(Sizes);
+BENCHMARK_CAPTURE(FrameOfTheLibrary, calls, MainOnly)->Name("frame and calls/library")->Arg(1000);
+BENCHMARK(CallsOfAFrame)->Name("frame and calls/bare")->Arg(1000);
+BENCHMARK_CAPTURE(FrameOfTheLibrary, outline, MainAndOutline)->Name("outline and main/library")->Arg(1000);
+BENCHMARK_CAPTURE(BareFrame, outline, MainAndOutline)->Name("outline and main/bare")->Arg(1000);
+BENCHMARK_CAPTURE(FrameOfTheLibrary, hollow, Hollow)->Name("outline, main and hollow/library")->Arg(1000);
+BENCHMARK_CAPTURE(BareFrame, hollow, Hollow)->Name("outline, main and hollow/bare")->Arg(1000);
 
 } // namespace
 } // namespace zq::LM::bench

@@ -42,7 +42,7 @@ void Compare(const std::string& name, int rounds, Bare bare, Layer layer)
         layerCost = (std::min)(layerCost, NanosecondsOfACall(layer));
     }
     std::cout << std::fixed << "| " << name << " | " << std::setprecision(1) << layerCost << " | " << bareCost
-              << " | " << std::setprecision(2) << layerCost / bareCost << " |\n";
+              << " | ns | " << std::setprecision(2) << layerCost / bareCost << " |\n";
 }
 
 // Samples, the last of which drops them again, so that none of them adds up.
@@ -68,13 +68,14 @@ int main(int count, char** arguments)
         options.backEnd = lumora::BackEnd::GDI;
         lumora::Overlay overlay(options, library);
 
-        std::cout << "| call | class, ns | C function, ns | ratio |\n|---|---|---|---|\n";
+        std::cout << "| pair | class | C function | unit | ratio |\n|---|---|---|---|---|\n";
         Compare(
-            "Window", rounds, [&] { return library.getWindowHandle(); }, [&] { return overlay.Window(); });
+            "Overlay::Window", rounds, [&] { return library.getWindowHandle(); },
+            [&] { return overlay.Window(); });
         for (const std::size_t size : {1U, 10U, 100U}) {
             const std::vector<LM_PenData> samples = Batch(size);
             Compare(
-                "Input of " + std::to_string(size), rounds,
+                "Overlay::Input/" + std::to_string(size), rounds,
                 [&] { library.inputPenDataArray(samples.data(), samples.size()); },
                 [&] { overlay.Input(samples); });
         }

@@ -26,10 +26,8 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
         if (!run.run_name.args.empty()) {
             name += "/" + run.run_name.args;
         }
-        const auto [place, isNew] = fastest.emplace(name, run.GetAdjustedCPUTime());
-        if (isNew) {
-            names.push_back(name);
-        }
+        names[{run.family_index, run.per_family_instance_index}] = name;
+        const auto place = fastest.emplace(name, run.GetAdjustedCPUTime()).first;
         place->second = std::min(place->second, run.GetAdjustedCPUTime());
     }
 }
@@ -37,8 +35,8 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
 void RatioReporter::Finalize()
 {
     ConsoleReporter::Finalize();
-    std::printf("\n%-24s %12s %12s %8s\n", "fastest repetition", "library", "bare", "ratio");
-    for (const std::string& name : names) {
+    std::printf("\n| pair | library | bare | unit | ratio |\n|---|---|---|---|---|\n");
+    for (const auto& [order, name] : names) {
         const std::size_t place = name.find(Library);
         if (place == std::string::npos) {
             continue;
@@ -52,7 +50,7 @@ void RatioReporter::Finalize()
         std::string subject = name;
         subject.erase(place, Library.size());
         const double library = fastest.at(name);
-        std::printf("%-24s %9.1f ns %9.1f ns %8.2f\n", subject.c_str(), library, bare->second,
+        std::printf("| %s | %.1f | %.1f | ns | %.2f |\n", subject.c_str(), library, bare->second,
                     library / bare->second);
     }
 }

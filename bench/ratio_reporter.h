@@ -3,8 +3,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zq::LM::bench {
@@ -20,7 +22,7 @@ public:
 
 private:
     std::map<std::string, double> fastest; // nanoseconds of CPU time by name, over all repetitions
-    std::vector<std::string> names;        // in the order of the runs
+    std::map<std::pair<std::int64_t, std::int64_t>, std::string> names; // in the order of the source
 };
 
 } // namespace zq::LM::bench
