@@ -8,7 +8,7 @@ namespace lumora::demo {
 
 namespace {
 
-constexpr wchar_t ClassName[] = L"Lumora Demo Desktop";
+constexpr wchar_t DesktopClass[] = L"Lumora Demo Desktop";
 
 struct Shade {
     BYTE red;
@@ -95,9 +95,9 @@ HWND CreateDesktopWindow(HINSTANCE instance)
     windowClass.lpfnWndProc = DesktopProcedure;
     windowClass.hInstance = instance;
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = ClassName;
+    windowClass.lpszClassName = DesktopClass;
     RegisterClassExW(&windowClass);
-    HWND window = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, ClassName, L"Lumora demo desktop",
+    HWND window = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, DesktopClass, L"Lumora demo desktop",
                                   WS_POPUP | WS_CLIPCHILDREN, 0, 0, GetSystemMetrics(SM_CXSCREEN),
                                   GetSystemMetrics(SM_CYSCREEN), nullptr, nullptr, instance, nullptr);
     if (window != nullptr && GetShellWindow() == nullptr && !BecomeShellWindow(window)) {

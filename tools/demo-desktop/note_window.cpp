@@ -8,7 +8,7 @@ namespace lumora::demo {
 
 namespace {
 
-constexpr wchar_t ClassName[] = L"Lumora Demo Note";
+constexpr wchar_t NoteClass[] = L"Lumora Demo Note";
 constexpr wchar_t Paragraph[] = L"The ink lies on a window of its own, above all others. Where there is no "
                                 L"ink that window cannot be seen, and it "
                                 L"never takes the mouse: what you read here stays readable, and a click on "
@@ -76,12 +76,12 @@ HWND CreateNoteWindow(HINSTANCE instance)
     windowClass.lpfnWndProc = NoteProcedure;
     windowClass.hInstance = instance;
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = ClassName;
+    windowClass.lpszClassName = NoteClass;
     RegisterClassExW(&windowClass);
 
     const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
     const int screenHeight = GetSystemMetrics(SM_CYSCREEN);
-    HWND window = CreateWindowExW(0, ClassName, L"An ordinary window", WS_OVERLAPPEDWINDOW,
+    HWND window = CreateWindowExW(0, NoteClass, L"An ordinary window", WS_OVERLAPPEDWINDOW,
                                   screenWidth * 44 / 100, screenHeight * 50 / 100, screenWidth * 50 / 100,
                                   screenHeight * 36 / 100, nullptr, nullptr, instance, nullptr);
     if (window != nullptr) {

@@ -15,10 +15,10 @@ namespace {
 using std::chrono::milliseconds;
 
 // The pointer's picture lies on the ink's newest pixels, so an older one is watched.
-constexpr std::int32_t StepLength = 40;
+constexpr std::int32_t MouseStep = 40;
 constexpr std::int32_t BehindPointer = 20;
-constexpr std::int32_t Margin = 60;
-constexpr std::int32_t RowDistance = 16;
+constexpr std::int32_t MouseMargin = 60;
+constexpr std::int32_t MouseRowDistance = 16;
 constexpr milliseconds BetweenEvents(60);
 constexpr milliseconds ForKeysToBeSeen(300);
 constexpr milliseconds ForInkToGo(1600);
@@ -65,17 +65,17 @@ std::vector<double> MeasureMouse(const MouseRoad& road, const Framebuffer& scree
     XMouse mouse;
     std::vector<double> times;
     std::uint32_t number = 0;
-    for (std::int32_t y = Margin; number < road.samples; y += RowDistance) {
-        if (y >= screen.Height() - Margin) {
-            y = Margin;
+    for (std::int32_t y = MouseMargin; number < road.samples; y += MouseRowDistance) {
+        if (y >= screen.Height() - MouseMargin) {
+            y = MouseMargin;
         }
-        mouse.Move(Margin, y);
+        mouse.Move(MouseMargin, y);
         std::this_thread::sleep_for(ForInkToGo);
         const Hold hold(mouse, road);
         std::this_thread::sleep_for(ForKeysToBeSeen);
-        mouse.Move(Margin + 1, y);
-        for (std::int32_t x = Margin + StepLength; x < screen.Width() - Margin && number < road.samples;
-             x += StepLength, ++number) {
+        mouse.Move(MouseMargin + 1, y);
+        for (std::int32_t x = MouseMargin + MouseStep;
+             x < screen.Width() - MouseMargin && number < road.samples; x += MouseStep, ++number) {
             std::this_thread::sleep_for(BetweenEvents);
             if (const auto time = MeasureStep(mouse, screen, x, y)) {
                 times.push_back(*time);

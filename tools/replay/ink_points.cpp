@@ -11,8 +11,6 @@ namespace lumora::replay {
 
 namespace {
 
-constexpr std::string_view Blanks = " \t\r\n";
-
 enum class Order { Explicit, Difference, SecondDifference };
 
 // What a channel's next value builds upon.
@@ -54,7 +52,7 @@ private:
 
     bool AtPointEnd_() const { return position == text.size() || text[position] == ','; }
 
-    void SkipBlanks_() { position = std::min(text.find_first_not_of(Blanks, position), text.size()); }
+    void SkipBlanks_() { position = std::min(text.find_first_not_of(XmlBlanks, position), text.size()); }
 
     // Leaves the position behind the comma that ends the point.
     void ReadPoint_()
@@ -165,7 +163,7 @@ private:
     {
         const std::string_view rest = text.substr(position);
         const bool negative = rest.starts_with('-');
-        const std::size_t digits = rest.find_first_not_of(Blanks, negative ? 1 : 0);
+        const std::size_t digits = rest.find_first_not_of(XmlBlanks, negative ? 1 : 0);
         const char* const begin = rest.data() + std::min(digits, rest.size());
         const char* const end = rest.data() + rest.size();
         double number = 0;

@@ -9,7 +9,6 @@ namespace lumora::replay {
 
 namespace {
 
-constexpr double TenthsPerDegree = 10;
 constexpr double TenthsPerRadian = 1800 / 3.14159265358979323846;
 
 std::optional<double> Value(const InkPoint& point, std::optional<std::size_t> column)

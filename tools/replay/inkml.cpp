@@ -13,8 +13,6 @@ namespace lumora::replay {
 
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-
 // What a context says of the traces in it.
 struct InkSource {
     InkFormat format = PlainInkFormat();

@@ -11,7 +11,6 @@ namespace lumora::replay {
 
 namespace {
 
-constexpr double TenthsPerDegree = 10;
 constexpr std::string_view Device = R"(units="dev")";
 
 using Samples = std::vector<RecordedSample>;

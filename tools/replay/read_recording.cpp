@@ -29,7 +29,6 @@ bool IsUtf16(std::string_view beginning)
 
 bool IsXml(std::string_view beginning)
 {
-    constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
     beginning.remove_prefix(beginning.starts_with(Utf8Mark) ? Utf8Mark.size() : 0);
     const std::size_t first = beginning.find_first_not_of(" \t\r\n");
     return first != std::string_view::npos && beginning[first] == '<';

@@ -4,10 +4,16 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
 namespace lumora::replay {
+
+// Some programs begin a file with it.
+inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
+inline constexpr double TenthsPerDegree = 10;
 
 struct RecordedSample {
     double x = 0;

@@ -27,7 +27,7 @@ constexpr int RowHeight = 20;
 constexpr std::chrono::milliseconds InkLife{1500};
 constexpr auto FullTouch = static_cast<std::int32_t>(FullPressure);
 constexpr double LongestWaitMs = 1000; // for one stroke, most of it a first frame's
-constexpr double WipeMs = 500;         // the overlay notices the end of its ink by a timer
+constexpr double NoticeMs = 500;       // the overlay notices the end of its ink by a timer
 
 double NowMs()
 {
@@ -159,7 +159,7 @@ void Try(Overlay& overlay, POINT middle, const Backdrop& backdrop, BackEndFindin
         params.usePressure = false;
         params.cursor = false;
     });
-    PumpFor(WipeMs);
+    PumpFor(NoticeMs);
 
     std::vector<double> paintMs;
     std::vector<double> screenMs;
@@ -170,7 +170,7 @@ void Try(Overlay& overlay, POINT middle, const Backdrop& backdrop, BackEndFindin
     findings.medianScreenMs = MedianOf(screenMs);
     findings.letsClicksThrough = WindowFromPoint(middle) == backdrop.Window();
 
-    PumpFor(static_cast<double>(InkLife.count()) + WipeMs);
+    PumpFor(static_cast<double>(InkLife.count()) + NoticeMs);
     findings.isGoneAfterItsLife = true;
     for (int i = 0; i < Strokes; ++i) {
         findings.isGoneAfterItsLife = findings.isGoneAfterItsLife && ColourAt(PlaceOf(middle, i)) == Below;

@@ -16,8 +16,7 @@ constexpr std::size_t ColumnCount = 7;
 constexpr std::size_t PenColumn = 3;
 constexpr std::array<std::string_view, ColumnCount> ColumnNames = {"x",       "y",        "time",    "pen",
                                                                    "azimuth", "altitude", "pressure"};
-constexpr std::string_view Blanks = " \t";
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view BlanksInALine = " \t";
 constexpr std::string_view UnitComment = "# time-unit:";
 
 struct Limits {
@@ -36,10 +35,10 @@ std::string RangeText(Limits limits) { return NumberText(limits.min) + " to " + 
 std::vector<std::string_view> SplitColumns(std::string_view line)
 {
     std::vector<std::string_view> columns;
-    for (std::size_t start = line.find_first_not_of(Blanks); start != std::string_view::npos;) {
-        const std::size_t end = line.find_first_of(Blanks, start);
+    for (std::size_t start = line.find_first_not_of(BlanksInALine); start != std::string_view::npos;) {
+        const std::size_t end = line.find_first_of(BlanksInALine, start);
         columns.push_back(line.substr(start, end - start));
-        start = line.find_first_not_of(Blanks, end);
+        start = line.find_first_not_of(BlanksInALine, end);
     }
     return columns;
 }
@@ -87,7 +86,7 @@ private:
     {
         bool found = false;
         while (!found && NextLine_()) {
-            found = !line.starts_with('#') && line.find_first_not_of(Blanks) != std::string::npos;
+            found = !line.starts_with('#') && line.find_first_not_of(BlanksInALine) != std::string::npos;
             if (auto error = ReadUnitComment_()) {
                 return error;
             }
@@ -140,7 +139,7 @@ private:
         while (NextLine_()) {
             if (auto error = ReadSample_()) {
                 // An empty rest of the file ends it; it is not a damaged sample.
-                if (line.find_first_not_of(Blanks) != std::string::npos || !OnlyBlankLinesFollow_()) {
+                if (line.find_first_not_of(BlanksInALine) != std::string::npos || !OnlyBlankLinesFollow_()) {
                     return error;
                 }
             }
@@ -156,7 +155,7 @@ private:
     {
         bool blank = true;
         while (blank && NextLine_()) {
-            blank = line.find_first_not_of(Blanks) == std::string::npos;
+            blank = line.find_first_not_of(BlanksInALine) == std::string::npos;
         }
         return blank;
     }

@@ -12,7 +12,6 @@ namespace lumora::replay {
 
 namespace {
 
-constexpr std::string_view Blanks = " \t\r\n";
 constexpr std::string_view NameEnds = " \t\r\n/>=<&'\"";
 
 // Letters beyond ASCII are all taken for parts of names.
@@ -76,7 +75,7 @@ std::optional<std::string> Entity(std::string_view name)
 
 } // namespace
 
-bool IsXmlBlank(std::string_view text) { return text.find_first_not_of(Blanks) == std::string_view::npos; }
+bool IsXmlBlank(std::string_view text) { return text.find_first_not_of(XmlBlanks) == std::string_view::npos; }
 
 bool XmlCursor::Skip(std::string_view text)
 {
@@ -87,7 +86,10 @@ bool XmlCursor::Skip(std::string_view text)
     return here;
 }
 
-bool XmlCursor::SkipBlanks() { return !Take_(std::min(rest.find_first_not_of(Blanks), rest.size())).empty(); }
+bool XmlCursor::SkipBlanks()
+{
+    return !Take_(std::min(rest.find_first_not_of(XmlBlanks), rest.size())).empty();
+}
 
 std::string_view XmlCursor::TakeUntilAny(std::string_view characters)
 {

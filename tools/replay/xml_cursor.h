@@ -8,6 +8,8 @@
 
 namespace lumora::replay {
 
+inline constexpr std::string_view XmlBlanks = " \t\r\n";
+
 class XmlCursor {
 public:
     explicit XmlCursor(std::string_view text) : rest(text) {}

@@ -9,7 +9,6 @@ namespace lumora_pen {
 
 namespace {
 
-constexpr UINT Failed = static_cast<UINT>(-1);
 constexpr UINT MostUnits = 1 << 20; // no device has so much to say
 constexpr int Attempts = 3;         // what is asked for may grow between the questions
 
@@ -22,7 +21,7 @@ template <typename Unit> std::vector<Unit> Ask(HANDLE device, UINT what)
     for (int attempt = 0; attempt < Attempts && size > 0 && size <= MostUnits; ++attempt) {
         std::vector<Unit> answer(size);
         const UINT count = GetRawInputDeviceInfoW(device, what, answer.data(), &size);
-        if (count != Failed && count <= answer.size()) {
+        if (count != RawInputFailed && count <= answer.size()) {
             answer.resize(count);
             return answer;
         }
@@ -42,7 +41,7 @@ std::vector<HANDLE> RawDevices()
     for (int attempt = 0; attempt < Attempts && count > 0 && count <= MostUnits; ++attempt) {
         std::vector<RAWINPUTDEVICELIST> list(count);
         const UINT got = GetRawInputDeviceList(list.data(), &count, sizeof(RAWINPUTDEVICELIST));
-        if (got != Failed && got <= list.size()) {
+        if (got != RawInputFailed && got <= list.size()) {
             std::vector<HANDLE> devices;
             for (UINT i = 0; i < got; ++i) {
                 devices.push_back(list[i].hDevice);
@@ -62,7 +61,7 @@ std::optional<RID_DEVICE_INFO_HID> PenFacts(HANDLE device)
     info.cbSize = sizeof(info);
     UINT size = sizeof(info);
     const UINT got = GetRawInputDeviceInfoW(device, RIDI_DEVICEINFO, &info, &size);
-    if (got == Failed || got == 0 || info.dwType != RIM_TYPEHID ||
+    if (got == RawInputFailed || got == 0 || info.dwType != RIM_TYPEHID ||
         info.hid.usUsagePage != usages::DigitizerPage || info.hid.usUsage != usages::PenDevice) {
         return std::nullopt;
     }

@@ -10,6 +10,9 @@
 
 namespace lumora_pen {
 
+// What the functions of Raw Input return instead of a count.
+inline constexpr UINT RawInputFailed = static_cast<UINT>(-1);
+
 // All that are plugged in.
 std::vector<HANDLE> RawDevices();
 

@@ -1,13 +1,14 @@
 // Reading of messages.
 #include "input/raw_message.h"
 
+#include "input/raw_device.h"
+
 #include <cstdint>
 
 namespace lumora_pen {
 
 namespace {
 
-constexpr UINT Failed = static_cast<UINT>(-1);
 constexpr std::size_t UsualBytes = 1024; // a busy pen's reports of a few frames
 constexpr std::size_t MostBytes = 1 << 20;
 constexpr std::size_t MouseBytes = offsetof(RAWINPUT, data) + sizeof(RAWMOUSE);
@@ -22,11 +23,11 @@ bool RawMessage::Read(HRAWINPUT message)
     filled = 0;
     UINT size = static_cast<UINT>(buffer.size());
     UINT got = GetRawInputData(message, RID_INPUT, buffer.data(), &size, sizeof(RAWINPUTHEADER));
-    if (got == Failed && size > buffer.size() && size <= MostBytes) {
+    if (got == RawInputFailed && size > buffer.size() && size <= MostBytes) {
         buffer.resize(size);
         got = GetRawInputData(message, RID_INPUT, buffer.data(), &size, sizeof(RAWINPUTHEADER));
     }
-    if (got == Failed || got > buffer.size() || got < sizeof(RAWINPUTHEADER)) {
+    if (got == RawInputFailed || got > buffer.size() || got < sizeof(RAWINPUTHEADER)) {
         return false;
     }
     filled = got;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr unsigned ChoicesOfACommand = 100;
 
-constexpr std::array<std::string_view, 3> BackEndTexts = {"&Composition", "&Direct2D", "&GDI"};
+constexpr std::array<std::string_view, 3> BackEndItems = {"&Composition", "&Direct2D", "&GDI"};
 
 unsigned IdOf(MenuCommand command, std::size_t choice = 0)
 {
@@ -63,8 +63,8 @@ std::vector<MenuItem> Numbers(MenuCommand command, const std::array<int, Count>&
 std::vector<MenuItem> BackEnds(const MenuState& state)
 {
     std::vector<MenuItem> items;
-    for (std::size_t i = 0; i < BackEndTexts.size(); ++i) {
-        items.push_back({std::string(BackEndTexts[i]),
+    for (std::size_t i = 0; i < BackEndItems.size(); ++i) {
+        items.push_back({std::string(BackEndItems[i]),
                          IdOf(MenuCommand::BackEnd, i),
                          static_cast<std::size_t>(state.backEndInUse) == i,
                          {}});

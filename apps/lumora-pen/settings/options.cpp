@@ -30,8 +30,6 @@ struct Mistake {
     std::string text;
 };
 
-std::string Quoted(std::string_view text) { return std::string("\"").append(text).append("\""); }
-
 [[noreturn]] void Refuse(std::string_view option, std::string_view wanted, std::string_view value)
 {
     throw Mistake{std::string(option) + " takes " + std::string(wanted) + ", not " + Quoted(value) + "."};

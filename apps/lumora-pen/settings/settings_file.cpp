@@ -14,7 +14,7 @@ namespace {
 
 using std::filesystem::path;
 
-std::string Quoted(const path& file)
+std::string QuotedName(const path& file)
 {
     return std::string("\"").append(lumora::text::Utf8Of(file)).append("\"");
 }
@@ -62,11 +62,11 @@ void KeepAside(const path& file, SettingsLoad& load)
     std::filesystem::rename(file, aside, error);
     if (error) {
         load.maySave = false;
-        load.complaints.push_back(Quoted(file) +
+        load.complaints.push_back(QuotedName(file) +
                                   " is left as it is, and changes are not saved: it could not be renamed (" +
                                   ReasonOf(error) + ").");
     } else {
-        load.complaints.push_back("The file is kept as " + Quoted(aside) + ".");
+        load.complaints.push_back("The file is kept as " + QuotedName(aside) + ".");
     }
 }
 
@@ -110,7 +110,7 @@ SettingsLoad LoadSettings(const path& file)
     if (!text) {
         load.maySave = false;
         load.complaints.push_back(
-            Quoted(file) +
+            QuotedName(file) +
             " cannot be read and is left as it is: the usual settings hold, and changes are not saved.");
         return load;
     }
@@ -131,7 +131,7 @@ std::optional<std::string> SaveSettings(const path& file, const Settings& settin
 {
     const std::error_code error = Replace(file, WriteSettings(settings, previousText));
     if (error) {
-        return "The settings could not be saved to " + Quoted(file) + ": " + ReasonOf(error) + ".";
+        return "The settings could not be saved to " + QuotedName(file) + ": " + ReasonOf(error) + ".";
     }
     return std::nullopt;
 }

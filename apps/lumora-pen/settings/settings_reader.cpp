@@ -27,8 +27,6 @@ std::string Shown(const Json& value)
     return text;
 }
 
-std::string Quoted(std::string_view text) { return std::string("\"").append(text).append("\""); }
-
 std::string Within(std::string_view object, std::string_view name)
 {
     return std::string(object).append(".").append(name);

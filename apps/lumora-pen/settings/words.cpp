@@ -69,4 +69,6 @@ std::string TextOf(BackEndName backEnd)
     return {};
 }
 
+std::string Quoted(std::string_view text) { return std::string("\"").append(text).append("\""); }
+
 } // namespace lumora_pen

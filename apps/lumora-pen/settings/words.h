@@ -1,4 +1,4 @@
-// Colours and back-ends as words, in the settings file and on the command line alike.
+// Colours and back-ends as words, in the settings file, on the command line and in messages alike.
 #pragma once
 
 #include "settings/settings.h"
@@ -15,5 +15,8 @@ std::string TextOf(const lumora::Colour& colour); // "#RRGGBB"
 
 std::optional<BackEndName> ParseBackEnd(std::string_view text);
 std::string TextOf(BackEndName backEnd);
+
+// As messages show what somebody has written.
+std::string Quoted(std::string_view text);
 
 } // namespace lumora_pen

@@ -11,7 +11,6 @@ namespace {
 using testing::ElementsAre;
 
 constexpr HRESULT Occluded = 0x087A0001; // a success, but not S_OK
-constexpr unsigned NormalLevel = 2;
 
 class FramesTest : public CompositionTest {
 protected:

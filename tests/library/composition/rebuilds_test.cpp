@@ -10,8 +10,6 @@ namespace {
 
 using testing::IsEmpty;
 
-constexpr unsigned NormalLevel = 2;
-
 class RebuildsTest : public CompositionTest {
 protected:
     ~RebuildsTest() override { library.SetDebugLevel(0); }

@@ -10,8 +10,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr unsigned NormalLevel = 2;
-
 class ResizeTest : public CompositionTest {
 protected:
     ResizeTest()

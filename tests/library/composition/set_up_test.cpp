@@ -12,8 +12,6 @@ using testing::ContainerEq;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr unsigned NormalLevel = 2;
-
 // Everything up to the first frame, for an overlay of 640 x 480.
 Lines SetUpCalls(HWND window)
 {

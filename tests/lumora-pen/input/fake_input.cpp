@@ -1,13 +1,13 @@
 #include "fake_input.h"
 
+#include "input/raw_device.h"
+
 #include <algorithm>
 #include <cstring>
 
 namespace lumora_pen {
 
 namespace {
-
-constexpr UINT Failed = static_cast<UINT>(-1);
 
 template <typename Unit> UINT Give(const std::vector<Unit>& answer, void* data, UINT* size)
 {
@@ -16,7 +16,7 @@ template <typename Unit> UINT Give(const std::vector<Unit>& answer, void* data, 
         return 0;
     }
     if (room < answer.size()) {
-        return Failed;
+        return RawInputFailed;
     }
     std::copy(answer.begin(), answer.end(), static_cast<Unit*>(data));
     return static_cast<UINT>(answer.size());
@@ -189,7 +189,7 @@ UINT InputTest::DeviceInfo_(HANDLE device, UINT what, void* data, UINT* size) co
 {
     const auto found = plugged.find(device);
     if (found == plugged.end()) {
-        return Failed;
+        return RawInputFailed;
     }
     const FakePen& known = found->second;
     if (what == RIDI_DEVICENAME) {

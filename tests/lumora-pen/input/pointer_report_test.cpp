@@ -36,9 +36,9 @@ TEST(TouchPressure, IsFullWhereNoneIsFelt) { EXPECT_EQ(TouchPressure(std::nullop
 
 // Two monitors, 30 by 20 centimetres each, the second twice as fine, and one to the left of the first.
 constexpr PixelRectangle Surface = {0, 0, 30000, 20000};
-constexpr Tablet First = {Surface, {0, 0, 1920, 1080}};
-constexpr Tablet Second = {Surface, {1920, 0, 5760, 2160}};
-constexpr Tablet Left = {Surface, {-1280, 100, 0, 1124}};
+constexpr Tablet OnTheFirst = {Surface, {0, 0, 1920, 1080}};
+constexpr Tablet OnTheSecond = {Surface, {1920, 0, 5760, 2160}};
+constexpr Tablet OnTheLeft = {Surface, {-1280, 100, 0, 1124}};
 
 void ExpectPlace(const Tablet& tablet, WholePosition fine, WholePosition pixel, double x, double y)
 {
@@ -49,41 +49,41 @@ void ExpectPlace(const Tablet& tablet, WholePosition fine, WholePosition pixel, 
 
 TEST(PlaceOnTheScreen, IsThatOfTheMonitorUnderTheSurface)
 {
-    ExpectPlace(First, {15000, 10000}, {960, 540}, 960, 540);
-    ExpectPlace(Second, {15000, 10000}, {3840, 1080}, 3840, 1080);
-    ExpectPlace(Left, {0, 0}, {-1280, 100}, -1280, 100);
-    ExpectPlace(Left, {30000, 20000}, {0, 1124}, 0, 1124);
+    ExpectPlace(OnTheFirst, {15000, 10000}, {960, 540}, 960, 540);
+    ExpectPlace(OnTheSecond, {15000, 10000}, {3840, 1080}, 3840, 1080);
+    ExpectPlace(OnTheLeft, {0, 0}, {-1280, 100}, -1280, 100);
+    ExpectPlace(OnTheLeft, {30000, 20000}, {0, 1124}, 0, 1124);
 }
 
 TEST(PlaceOnTheScreen, KeepsFractionsOfPixels)
 {
-    ExpectPlace(First, {15004, 10001}, {960, 540}, 960.256, 540.054);
-    ExpectPlace(Second, {15001, 10001}, {3840, 1080}, 3840.128, 1080.108);
-    ExpectPlace(Left, {15005, 10002}, {-640, 612}, -639.786666666667, 612.1024);
+    ExpectPlace(OnTheFirst, {15004, 10001}, {960, 540}, 960.256, 540.054);
+    ExpectPlace(OnTheSecond, {15001, 10001}, {3840, 1080}, 3840.128, 1080.108);
+    ExpectPlace(OnTheLeft, {15005, 10002}, {-640, 612}, -639.786666666667, 612.1024);
 }
 
 TEST(PlaceOnTheScreen, CountsFromTheSurfacesOwnCorner)
 {
-    ExpectPlace({{1000, 2000, 31000, 22000}, First.display}, {16000, 12000}, {960, 540}, 960, 540);
+    ExpectPlace({{1000, 2000, 31000, 22000}, OnTheFirst.display}, {16000, 12000}, {960, 540}, 960, 540);
 }
 
 TEST(PlaceOnTheScreen, IsTheSystemsWhereTheTabletHasNoSize)
 {
     ExpectPlace({}, {15004, 10001}, {960, 540}, 960, 540);
     ExpectPlace({Surface, {}}, {15004, 10001}, {960, 540}, 960, 540);
-    ExpectPlace({{0, 0, -5, 20000}, First.display}, {15004, 10001}, {960, 540}, 960, 540.054);
+    ExpectPlace({{0, 0, -5, 20000}, OnTheFirst.display}, {15004, 10001}, {960, 540}, 960, 540.054);
 }
 
 TEST(PlaceOnTheScreen, IsTheSystemsWhereTheTwoDoNotAgree)
 {
-    ExpectPlace(First, {20000, 10001}, {540, 540}, 540, 540.054);
-    ExpectPlace(First, {15004, std::numeric_limits<std::int32_t>::max()}, {960, 3}, 960.256, 3);
+    ExpectPlace(OnTheFirst, {20000, 10001}, {540, 540}, 540, 540.054);
+    ExpectPlace(OnTheFirst, {15004, std::numeric_limits<std::int32_t>::max()}, {960, 3}, 960.256, 3);
 }
 
 TEST(PlaceOnTheScreen, IsFineWithinTheRoundingOfBoth)
 {
-    ExpectPlace(First, {15004, 10001}, {962, 539}, 960.256, 540.054);
-    ExpectPlace(First, {15004, 10001}, {963, 538}, 963, 538);
+    ExpectPlace(OnTheFirst, {15004, 10001}, {962, 539}, 960.256, 540.054);
+    ExpectPlace(OnTheFirst, {15004, 10001}, {963, 538}, 963, 538);
 }
 
 TEST(PointerHistory, IsAskedForWithinBounds)

@@ -1,14 +1,14 @@
 // Messages that are not what they should be: nothing is written, and the next one counts.
 #include "fake_input.h"
 
+#include "input/raw_device.h"
+
 namespace lumora_pen {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-constexpr UINT Failed = static_cast<UINT>(-1);
 
 class DamagedMessage : public InputTest {
 protected:
@@ -51,7 +51,7 @@ protected:
 
 TEST_F(DamagedMessage, SystemGivesNothing)
 {
-    reading.Answer([](HRAWINPUT, UINT, void*, UINT*, UINT) { return Failed; });
+    reading.Answer([](HRAWINPUT, UINT, void*, UINT*, UINT) { return RawInputFailed; });
     SendBytes();
     ExpectNothingButTheNext();
 }
@@ -104,7 +104,7 @@ TEST_F(DamagedMessage, SizeGrowsWithoutEnd)
 {
     reading.Answer([](HRAWINPUT, UINT, void*, UINT* size, UINT) {
         *size += 100;
-        return Failed;
+        return RawInputFailed;
     });
     reading.Forget();
     SendBytes();
@@ -116,7 +116,7 @@ TEST_F(DamagedMessage, SizeIsAbsurd)
 {
     reading.Answer([](HRAWINPUT, UINT, void*, UINT* size, UINT) {
         *size = 0xFFFFFFF0;
-        return Failed;
+        return RawInputFailed;
     });
     SendBytes();
     ExpectNothingButTheNext();

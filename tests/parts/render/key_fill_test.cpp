@@ -1,8 +1,7 @@
 // Filling with the key: the calls, and what happens when the brush cannot be made.
 #include "render/key_fill.h"
 
-#include "parts/render/drawing_calls.h"
-#include "support/screen/test_bitmap.h"
+#include "parts/render/gdi_test.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,18 +11,18 @@ namespace zq::LM {
 namespace {
 
 using test::DrawingCalls;
+using test::Green;
 using test::TestBitmap;
 using testing::ElementsAre;
 
-constexpr COLORREF Green = 0x00008000;
-constexpr COLORREF Blue = 0x00FF0000;
-constexpr COLORREF Key = 0x00FF00FF;
+constexpr COLORREF OtherColour = 0x00FF0000;
+constexpr COLORREF FillColour = 0x00FF00FF;
 
 class KeyFillTest : public testing::Test {
 protected:
     KeyFillTest() { calls.Name(bitmap.DC(), "dc"); }
 
-    bool Fill() const { return FillRectangle(bitmap.DC(), {0, 0, 60, 40}, Key); }
+    bool Fill() const { return FillRectangle(bitmap.DC(), {0, 0, 60, 40}, FillColour); }
 
     TestBitmap bitmap{100, 80, Green};
     DrawingCalls calls;
@@ -35,7 +34,7 @@ TEST_F(KeyFillTest, TakesABrushAndGivesItBack)
     EXPECT_THAT(calls.Take(), ElementsAre("CreateSolidBrush(0xFF00FF)", "SelectObject(dc, brush 0xFF00FF)",
                                           "PatBlt(dc, 0, 0, 60, 40, 0xF00021)", "SelectObject(dc, previous)",
                                           "DeleteObject(brush 0xFF00FF)"));
-    EXPECT_EQ(bitmap.Look().Count(Key), 60U * 40U);
+    EXPECT_EQ(bitmap.Look().Count(FillColour), 60U * 40U);
 }
 
 TEST_F(KeyFillTest, WithoutABrushFillsByTheContextsOwn)
@@ -47,16 +46,16 @@ TEST_F(KeyFillTest, WithoutABrushFillsByTheContextsOwn)
                 ElementsAre("CreateSolidBrush(0xFF00FF)", "SetDCBrushColor(dc, 0xFF00FF)",
                             "SelectObject(dc, the context's)", "PatBlt(dc, 0, 0, 60, 40, 0xF00021)",
                             "SelectObject(dc, previous)", "SetDCBrushColor(dc, 0xFFFFFF)"));
-    EXPECT_EQ(bitmap.Look().Count(Key), 60U * 40U);
+    EXPECT_EQ(bitmap.Look().Count(FillColour), 60U * 40U);
 }
 
 TEST_F(KeyFillTest, WithoutABrushLeavesTheContextsBrushAndItsColourAsTheyWere)
 {
-    SetDCBrushColor(bitmap.DC(), Blue);
+    SetDCBrushColor(bitmap.DC(), OtherColour);
     HGDIOBJ before = GetCurrentObject(bitmap.DC(), OBJ_BRUSH);
     calls.Record<"CreateSolidBrush">(CreateSolidBrush).Fail(nullptr);
     EXPECT_TRUE(Fill());
-    EXPECT_EQ(GetDCBrushColor(bitmap.DC()), Blue);
+    EXPECT_EQ(GetDCBrushColor(bitmap.DC()), OtherColour);
     EXPECT_EQ(GetCurrentObject(bitmap.DC(), OBJ_BRUSH), before);
 }
 
@@ -76,9 +75,9 @@ TEST_F(KeyFillTest, SaysThatNothingWasPainted)
 
 TEST_F(KeyFillTest, WithoutADeviceContextSaysSo)
 {
-    EXPECT_FALSE(FillRectangle(nullptr, {0, 0, 60, 40}, Key));
+    EXPECT_FALSE(FillRectangle(nullptr, {0, 0, 60, 40}, FillColour));
     calls.Record<"CreateSolidBrush">(CreateSolidBrush).Fail(nullptr);
-    EXPECT_FALSE(FillRectangle(nullptr, {0, 0, 60, 40}, Key));
+    EXPECT_FALSE(FillRectangle(nullptr, {0, 0, 60, 40}, FillColour));
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 // The memory surface: how it is made, fails, is given back and is shown.
 #include "render/memory_surface.h"
 
-#include "parts/render/drawing_calls.h"
-#include "support/screen/test_bitmap.h"
+#include "parts/render/gdi_test.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,13 +11,13 @@ namespace zq::LM {
 namespace {
 
 using test::DrawingCalls;
+using test::Green;
 using test::Picture;
+using test::Red;
 using test::TestBitmap;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr COLORREF Green = 0x00008000;
-constexpr COLORREF Red = 0x000000FF;
 constexpr COLORREF Blue = 0x00FF0000;
 
 constexpr HWND TheScreen = nullptr;

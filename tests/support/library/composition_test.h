@@ -12,6 +12,8 @@ namespace zq::LM::test {
 
 using Lines = std::vector<std::string>;
 
+inline constexpr unsigned NormalLevel = 2; // of the log
+
 class CompositionTest : public OverlayTest {
 protected:
     // The overlay with its set-up's calls dropped; frames are not shown on the screen.
