@@ -11,7 +11,6 @@ namespace zq::LM::test {
 
 namespace {
 
-constexpr std::uint32_t Normal = 2;
 const Lines LinesOfCommand = {"WM_COMMAND ... ", "InvalidateRect is called.\n", "done\n"};
 
 } // namespace

@@ -5,7 +5,6 @@ namespace zq::LM::test {
 
 namespace {
 
-constexpr std::uint32_t Normal = 2;
 const Lines LinesOfMouse = {"WM_USER_DEF_TRAY_MESSAGE ... ", "done.\n"};
 const Lines LinesOfHotkey = {"WM_HOTKEY ... ", "WM_USER_DEF_TRAY_MESSAGE ... ", "done.\n", "done.\n"};
 const Lines PopUp = {"GetSubMenu(menu, 0)", "GetCursorPos(*)", "SetForegroundWindow(window 1)",

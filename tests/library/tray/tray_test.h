@@ -14,6 +14,8 @@ class TrayTest : public WindowTest {
 protected:
     TrayTest();
 
+    static constexpr std::uint32_t Normal = 2; // a level at which messages are written
+
     // An overlay with GDI and a user interface, which owes no paint; its calls are dropped. "window 1" in
     // calls.
     void CreateWithTray(std::uint32_t level = 1);

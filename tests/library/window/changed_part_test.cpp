@@ -244,12 +244,12 @@ TEST_F(ChangedPartTest, WholeWithAWidthBeyondEveryScreen)
 
 TEST_F(ChangedPartTest, ClipThatTheSystemRefusesMakesAWholeFrame)
 {
-    const Backdrop below(Desktop, RGB(0, 128, 0));
+    const Backdrop below(Desktop, Green);
     CreateWithStroke();
     calls.Answer<"IntersectClipRect">(IntersectClipRect, [](HDC, int, int, int, int) { return ERROR; });
     LetInkAge();
     Paint();
-    EXPECT_EQ(TakePicture(Desktop).Count(RGB(0, 128, 0)), 640U * 480U);
+    EXPECT_EQ(TakePicture(Desktop).Count(Green), 640U * 480U);
 }
 
 TEST_F(ChangedPartTest, ClipThatTheSystemKeepsGoesWithItsBitmap)

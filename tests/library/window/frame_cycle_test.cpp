@@ -5,7 +5,6 @@ namespace zq::LM::test {
 
 namespace {
 
-constexpr COLORREF Green = RGB(0, 128, 0);
 constexpr RECT StrokePlace = {280, 140, 380, 180};
 
 } // namespace

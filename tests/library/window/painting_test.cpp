@@ -7,10 +7,8 @@ namespace zq::LM::test {
 
 namespace {
 
-constexpr COLORREF Green = RGB(0, 128, 0);
 constexpr COLORREF White = RGB(255, 255, 255);
 constexpr COLORREF Black = RGB(0, 0, 0);
-constexpr RECT WholeScreen = {0, 0, 1024, 768};
 
 } // namespace
 

@@ -5,13 +5,6 @@
 
 namespace zq::LM::test {
 
-namespace {
-
-constexpr COLORREF Green = RGB(0, 128, 0);
-constexpr RECT WholeScreen = {0, 0, 1024, 768};
-
-} // namespace
-
 class RebuildTest : public WindowTest {
 protected:
     // What a command writes at the level.

@@ -181,19 +181,19 @@ TEST(PaintRecord, ForgottenWindowIsCopiedWhole)
 }
 
 // Bitmap and window as grids of pixels: 0 is the key, -1 what nobody has drawn yet.
-constexpr std::int32_t Size = 40;
-using Grid = std::array<int, static_cast<std::size_t>(Size) * Size>;
+constexpr std::int32_t GridSize = 40;
+using Grid = std::array<int, static_cast<std::size_t>(GridSize) * GridSize>;
 
 std::size_t Index(std::int32_t x, std::int32_t y)
 {
-    return static_cast<std::size_t>(y) * Size + static_cast<std::size_t>(x);
+    return static_cast<std::size_t>(y) * GridSize + static_cast<std::size_t>(x);
 }
 
 template <typename Change> void ForEach(const PaintArea& area, Change change)
 {
     const PaintRectangle& bounds = area.Bounds();
-    for (std::int32_t y = 0; y < Size; ++y) {
-        for (std::int32_t x = 0; x < Size; ++x) {
+    for (std::int32_t y = 0; y < GridSize; ++y) {
+        for (std::int32_t x = 0; x < GridSize; ++x) {
             if (area.IsEverything() ||
                 (x >= bounds.left && x < bounds.right && y >= bounds.top && y < bounds.bottom)) {
                 change(Index(x, y));
@@ -250,7 +250,7 @@ private:
     // Drawn a pixel and a half wider than asked for: nobody knows how a system rounds.
     void Line_(std::mt19937& random, Grid& wanted)
     {
-        const auto coordinate = [&random] { return static_cast<std::int32_t>(random() % (Size + 20)) - 10; };
+        const auto coordinate = [&random] { return static_cast<std::int32_t>(random() % (GridSize + 20)) - 10; };
         const std::int32_t x1 = coordinate();
         const std::int32_t y1 = coordinate();
         const std::int32_t x2 = coordinate();
@@ -258,8 +258,8 @@ private:
         const std::uint32_t width = static_cast<std::uint32_t>(random() % 9);
         const int colour = 1 + static_cast<int>(random() % 5);
         record.AddLine(x1, y1, x2, y2, width);
-        for (std::int32_t y = 0; y < Size; ++y) {
-            for (std::int32_t x = 0; x < Size; ++x) {
+        for (std::int32_t y = 0; y < GridSize; ++y) {
+            for (std::int32_t x = 0; x < GridSize; ++x) {
                 if (DistanceToLine(x, y, x1, y1, x2, y2) <= width / 2.0 + 1.5) {
                     const auto index = Index(x, y);
                     bitmap[index] = colour;

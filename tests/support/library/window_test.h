@@ -27,6 +27,10 @@ protected:
     void InputStroke() const { Input({Sample(100, 100), Sample(150, 100)}); }
     static constexpr COLORREF Ink = 0x00202020;
 
+    // What lies below the overlay, and all that is seen.
+    static constexpr COLORREF Green = RGB(0, 128, 0);
+    static constexpr RECT WholeScreen = {0, 0, 1024, 768};
+
     std::size_t Invalidations() const { return calls.Count("InvalidateRect"); }
 
     Hooks calls{library.Module()};
