@@ -10,6 +10,16 @@
 
 namespace zq::LM::test {
 
+struct ChangedPartsScene {
+    BackEnd backEnd;
+    unsigned seed;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const ChangedPartsScene& scene)
+{
+    return out << scene.backEnd << scene.seed;
+}
+
 namespace {
 
 constexpr RECT SmallScreen = {0, 0, 360, 260};
@@ -24,17 +34,10 @@ int StepCount()
     return WantedSteps() != nullptr ? static_cast<int>(std::strtol(WantedSteps(), nullptr, 10)) : Few;
 }
 
-struct Scene {
-    BackEnd backEnd;
-    unsigned seed;
-};
-
-std::ostream& operator<<(std::ostream& out, const Scene& scene) { return out << scene.backEnd << scene.seed; }
-
-std::vector<Scene> AllScenes()
+std::vector<ChangedPartsScene> AllScenes()
 {
     const unsigned seeds = WantedSteps() != nullptr ? 6 : 2;
-    std::vector<Scene> scenes;
+    std::vector<ChangedPartsScene> scenes;
     for (const BackEnd& backEnd : {Direct2DBackEnd, GDIBackEnd}) {
         for (unsigned seed = 0; seed < seeds; ++seed) {
             scenes.push_back({backEnd, seed});
@@ -45,7 +48,7 @@ std::vector<Scene> AllScenes()
 
 } // namespace
 
-class ChangedParts : public BackEndTest, public testing::WithParamInterface<Scene> {
+class ChangedParts : public BackEndTest, public testing::WithParamInterface<ChangedPartsScene> {
 protected:
     ChangedParts() : BackEndTest(GetParam().backEnd, SmallScreen) {}
 

@@ -15,10 +15,10 @@ namespace zq::LM::test {
 
 namespace {
 
-using Lines = std::vector<std::wstring>;
+using WideLines = std::vector<std::wstring>;
 
 // Every item in its order: text and command, those of a popup one step further in.
-void ReadMenu(HMENU menu, const std::wstring& indent, Lines& lines)
+void ReadMenu(HMENU menu, const std::wstring& indent, WideLines& lines)
 {
     for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         wchar_t text[100]{};
@@ -118,12 +118,12 @@ TEST_F(ResourcesTest, TheMenuIsOnePopupOfExactlyTheseItems)
     HMENU menu = LoadMenuW(file, L"IDR_MENU_LUMORA_CORE_TASKTRAY");
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(GetMenuItemCount(menu), 1);
-    Lines lines;
+    WideLines lines;
     ReadMenu(GetSubMenu(menu, 0), L"", lines);
-    EXPECT_EQ(lines, (Lines{L"&Setting = 40001", L"Save", L"  &FPS = 40002", L"Log", L"  NONE = 40010",
-                            L"  BASIC = 40011", L"  NORMAL = 40012", L"  DETAILED = 40013", L"  ALL = 40014",
-                            L"Rendering (*Under the test)", L"  Direct Composition = 40020",
-                            L"  Direct2D = 40021", L"  GDI = 40022"}));
+    EXPECT_EQ(lines, (WideLines{L"&Setting = 40001", L"Save", L"  &FPS = 40002", L"Log", L"  NONE = 40010",
+                                L"  BASIC = 40011", L"  NORMAL = 40012", L"  DETAILED = 40013",
+                                L"  ALL = 40014", L"Rendering (*Under the test)",
+                                L"  Direct Composition = 40020", L"  Direct2D = 40021", L"  GDI = 40022"}));
     DestroyMenu(menu);
 }
 

@@ -1,7 +1,7 @@
 // The GDI back-end: its life, its binding to a window, and the operations that do nothing.
 #include "render/gdi.h"
 
-#include "parts/render/drawing_calls.h"
+#include "parts/render/gdi_test.h"
 #include "support/log_level.h"
 #include "support/recorded_log.h"
 #include "support/screen/test_bitmap.h"
@@ -14,6 +14,7 @@ namespace zq::LM {
 namespace {
 
 using test::DrawingCalls;
+using test::Green;
 using test::LogLevel;
 using test::LogLine;
 using test::RecordedLog;
@@ -22,7 +23,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr unsigned Key = 0x00FF00FF;
-constexpr COLORREF Green = 0x00008000;
 
 // A window that is never shown; without borders its client area is all of it.
 class HiddenWindow {

@@ -250,7 +250,9 @@ private:
     // Drawn a pixel and a half wider than asked for: nobody knows how a system rounds.
     void Line_(std::mt19937& random, Grid& wanted)
     {
-        const auto coordinate = [&random] { return static_cast<std::int32_t>(random() % (GridSize + 20)) - 10; };
+        const auto coordinate = [&random] {
+            return static_cast<std::int32_t>(random() % (GridSize + 20)) - 10;
+        };
         const std::int32_t x1 = coordinate();
         const std::int32_t y1 = coordinate();
         const std::int32_t x2 = coordinate();
