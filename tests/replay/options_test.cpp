@@ -161,6 +161,7 @@ TEST(InkOptions, NoOptionLeavesTheRecordAsItIs)
     EXPECT_EQ(params.usePressure, 1);
     EXPECT_EQ(params.useOffset, 0);
     EXPECT_EQ(params.zebraMode, 0);
+    EXPECT_EQ(params.colorPicker, 0);
 }
 
 TEST(InkOptions, ColourIsWrittenRedFirstAndStoredRedLast)
@@ -189,6 +190,8 @@ TEST(InkOptions, NoCursorTurnsTheCrossHairOff) { EXPECT_EQ(ParamsWith({"--no-cur
 TEST(InkOptions, NoPressureTurnsThePressureOff) { EXPECT_EQ(ParamsWith({"--no-pressure"}).usePressure, 0); }
 
 TEST(InkOptions, OffsetTurnsTheOffsetOn) { EXPECT_EQ(ParamsWith({"--offset"}).useOffset, 1); }
+
+TEST(InkOptions, PickColourBeginsThePicking) { EXPECT_EQ(ParamsWith({"--pick-colour"}).colorPicker, 1); }
 
 TEST(InkOptions, ZebraTurnsTheBandsOn) { EXPECT_EQ(ParamsWith({"--zebra"}).zebraMode, 1); }
 
@@ -309,10 +312,11 @@ TEST(Help, NamesEveryOptionAndStatus)
 {
     const std::string help = HelpText();
     for (const char* text :
-         {"--backend",     "--switch",       "--speed",     "--screenshot", "--colour",  "--brush",
-          "--min-brush",   "--max-pressure", "--life",      "--outline",    "--no-line", "--no-cursor",
-          "--no-pressure", "--offset",       "--zebra",     "--log-level",  "--dll",     "--help",
-          "--save",        "--overwrite",    "--time-unit", "--selftest",   "--pixels",  "Exit status"}) {
+         {"--backend",     "--switch",    "--speed",        "--screenshot", "--colour",
+          "--brush",       "--min-brush", "--max-pressure", "--life",       "--outline",
+          "--no-line",     "--no-cursor", "--no-pressure",  "--offset",     "--zebra",
+          "--pick-colour", "--log-level", "--dll",          "--help",       "--save",
+          "--overwrite",   "--time-unit", "--selftest",     "--pixels",     "Exit status"}) {
         EXPECT_THAT(help, HasSubstr(text));
     }
 }

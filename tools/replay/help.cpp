@@ -70,6 +70,7 @@ constexpr char AboutInkAndStatus[] = R"(Ink:
   --no-pressure           every stroke has the full width
   --offset                strokes are drawn 50 pixels above the pen
   --zebra                 strokes are banded in ink and contrast colour
+  --pick-colour           the first touch takes the colour below the mouse cursor, which a hovering pen shows beside it
 
   -h, --help              this text
   --                      what follows is the recording's name, even if it begins with '-'

@@ -56,9 +56,13 @@ struct FlagOption {
 };
 
 constexpr std::array FlagOptions = {
-    FlagOption{"--outline", &InkChanges::outline},    FlagOption{"--no-line", &InkChanges::noLine},
-    FlagOption{"--no-cursor", &InkChanges::noCursor}, FlagOption{"--no-pressure", &InkChanges::noPressure},
-    FlagOption{"--offset", &InkChanges::offset},      FlagOption{"--zebra", &InkChanges::zebra},
+    FlagOption{"--outline", &InkChanges::outline},
+    FlagOption{"--no-line", &InkChanges::noLine},
+    FlagOption{"--no-cursor", &InkChanges::noCursor},
+    FlagOption{"--no-pressure", &InkChanges::noPressure},
+    FlagOption{"--offset", &InkChanges::offset},
+    FlagOption{"--zebra", &InkChanges::zebra},
+    FlagOption{"--pick-colour", &InkChanges::pickColour},
 };
 
 constexpr std::string_view SaveOption = "--save";
@@ -345,6 +349,7 @@ void ApplyInk(const InkChanges& changes, LM_Params& params)
     params.usePressure = changes.noPressure ? 0 : params.usePressure;
     params.useOffset = changes.offset ? 1 : params.useOffset;
     params.zebraMode = changes.zebra ? 1 : params.zebraMode;
+    params.colorPicker = changes.pickColour ? 1 : params.colorPicker;
 }
 
 } // namespace lumora::replay

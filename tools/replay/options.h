@@ -38,6 +38,7 @@ struct InkChanges {
     bool noPressure = false;
     bool offset = false;
     bool zebra = false;
+    bool pickColour = false;
 };
 
 // Texts are UTF-8.
