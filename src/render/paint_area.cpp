@@ -17,7 +17,34 @@ bool IsNear(std::int32_t coordinate)
     return coordinate >= -FarthestCoordinate && coordinate <= FarthestCoordinate;
 }
 
+// A clip of one rectangle more costs less than clearing and copying so many pixels.
+constexpr std::int64_t SmallArea = 4'096;
+
+std::int64_t Area(const PaintRectangle& rectangle)
+{
+    return (std::int64_t{rectangle.right} - rectangle.left) *
+           (std::int64_t{rectangle.bottom} - rectangle.top);
+}
+
+PaintRectangle Around(const PaintRectangle& one, const PaintRectangle& other)
+{
+    return {std::min(one.left, other.left), std::min(one.top, other.top), std::max(one.right, other.right),
+            std::max(one.bottom, other.bottom)};
+}
+
+// How many pixels the rectangle around both has beyond theirs; below 0 where they overlap.
+std::int64_t Between(const PaintRectangle& one, const PaintRectangle& other)
+{
+    return Area(Around(one, other)) - Area(one) - Area(other);
+}
+
 } // namespace
+
+struct PaintArea::Pair {
+    std::size_t first;
+    std::size_t second;
+    std::int64_t between;
+};
 
 bool operator==(const PaintRectangle& left, const PaintRectangle& right)
 {
@@ -47,20 +74,46 @@ void PaintArea::AddLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::
 void PaintArea::Add(const PaintArea& other)
 {
     isEverything = isEverything || other.isEverything;
-    Add(other.bounds);
+    for (const PaintRectangle& rectangle : other.Rectangles()) {
+        Add(rectangle);
+    }
 }
 
+// Two are joined when little lies between them, and the two with the least between them when there are too
+// many.
 void PaintArea::Add(const PaintRectangle& rectangle)
 {
-    if (rectangle.IsEmpty()) {
+    if (rectangle.IsEmpty() || isEverything) {
         return;
     }
-    if (bounds.IsEmpty()) {
-        bounds = rectangle;
-        return;
+    rectangles[count++] = rectangle;
+    while (count > 1) {
+        const Pair pair = CheapestPair_();
+        if (count <= Most && pair.between > SmallArea) {
+            return;
+        }
+        Join_(pair);
     }
-    bounds = {std::min(bounds.left, rectangle.left), std::min(bounds.top, rectangle.top),
-              std::max(bounds.right, rectangle.right), std::max(bounds.bottom, rectangle.bottom)};
+}
+
+PaintArea::Pair PaintArea::CheapestPair_() const
+{
+    Pair cheapest = {0, 1, Between(rectangles[0], rectangles[1])};
+    for (std::size_t first = 0; first < count; ++first) {
+        for (std::size_t second = first + 1; second < count; ++second) {
+            const std::int64_t between = Between(rectangles[first], rectangles[second]);
+            if (between < cheapest.between) {
+                cheapest = {first, second, between};
+            }
+        }
+    }
+    return cheapest;
+}
+
+void PaintArea::Join_(const Pair& pair)
+{
+    rectangles[pair.first] = Around(rectangles[pair.first], rectangles[pair.second]);
+    rectangles[pair.second] = rectangles[--count];
 }
 
 void PaintRecord::Forget()

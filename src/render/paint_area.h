@@ -1,7 +1,10 @@
 // Which part of the memory bitmap and of the window a frame has to touch: both hold little ink and much key.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace zq::LM {
 
@@ -18,9 +21,12 @@ struct PaintRectangle {
 
 bool operator==(const PaintRectangle& left, const PaintRectangle& right);
 
-// A rectangle around some pixels, or everything.
+// A few rectangles around some pixels, or everything. Pens that are far from each other, and a stroke that
+// leads across the screen, leave most of it between them untouched.
 class PaintArea {
 public:
+    static constexpr std::size_t Most = 4;
+
     static PaintArea Everything();
 
     // All that a line with round ends can reach, whatever rounds its width and smooths its edges. A line far
@@ -31,10 +37,16 @@ public:
     void Add(const PaintRectangle& rectangle);
 
     bool IsEverything() const { return isEverything; }
-    const PaintRectangle& Bounds() const { return bounds; } // means nothing where it is everything
+    std::span<const PaintRectangle> Rectangles() const { return {rectangles.data(), count}; } // may overlap
 
 private:
-    PaintRectangle bounds;
+    struct Pair;
+
+    Pair CheapestPair_() const;
+    void Join_(const Pair& pair);
+
+    std::array<PaintRectangle, Most + 1> rectangles; // one more for a moment
+    std::size_t count = 0;
     bool isEverything = false;
 };
 

@@ -20,6 +20,7 @@ protected:
     {
         calls.Record<"IntersectClipRect">(IntersectClipRect);
         calls.Record<"SelectClipRgn">(SelectClipRgn);
+        calls.Record<"SetRectRgn">(SetRectRgn);
         calls.Record<"CreateCompatibleDC">(CreateCompatibleDC);
         calls.Record<"GetDC">(GetDC);
         calls.Record<"PatBlt">(PatBlt);
@@ -52,13 +53,18 @@ protected:
     Lines CopiedParts() const { return Confined_("dc of window"); }
     Lines ClearedParts() const { return Confined_("memory dc"); }
 
+    void ExpectNoClip() const
+    {
+        EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+        EXPECT_EQ(calls.Of("SetRectRgn"), Lines{});
+    }
     void ExpectWholeFramesAndStay(int count)
     {
         for (; count > 0; --count) {
             InputNothing();
             PaintOnce();
             EXPECT_EQ(calls.Count("BitBlt"), 1U);
-            EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+            ExpectNoClip();
             calls.Take();
         }
     }
@@ -131,7 +137,36 @@ TEST_F(ChangedPartTest, PartThatSomebodyElseWantsIsCopiedToo)
     InputNothing();
     PaintOnce();
     EXPECT_EQ(ClearedParts(), Lines{StrokesPart});
-    EXPECT_EQ(CopiedParts(), Lines{"93, 93, 400, 220)"});
+    EXPECT_EQ(calls.Of("SetRectRgn"),
+              (Lines{"SetRectRgn(*, " + std::string(StrokesPart), "SetRectRgn(*, 300, 200, 400, 220)"}));
+}
+
+TEST_F(ChangedPartTest, DistantInksAreTwoParts)
+{
+    CreateWithStroke();
+    Input({Sample(160, 100, 0), Sample(500, 400), Sample(510, 400)});
+    PaintOnce();
+    EXPECT_EQ(calls.Of("SetRectRgn").size(), 2U);
+    EXPECT_EQ(CopiedParts(), Lines{});
+    calls.Record<"DeleteObject">(DeleteObject);
+    calls.Take();
+    InputNothing();
+    PaintOnce();
+    EXPECT_EQ(calls.Of("SetRectRgn").size(), 4U) << "cleared and copied";
+    EXPECT_EQ(calls.Count("DeleteObject"), 5U) << "two regions each, and the brush";
+}
+
+// Then the frame is whole.
+TEST_F(ChangedPartTest, RegionThatTheSystemRefusesMakesAWholeFrame)
+{
+    const Backdrop below(Desktop, Green);
+    CreateWithStroke();
+    Input({Sample(160, 100, 0), Sample(500, 400), Sample(510, 400)});
+    PaintOnce();
+    calls.Record<"CombineRgn">(CombineRgn).Fail(ERROR);
+    LetInkAge();
+    Paint();
+    EXPECT_EQ(TakePicture(Desktop).Count(Green), 640U * 480U);
 }
 
 TEST_F(ChangedPartTest, PaintThatOnlySomebodyElseWantsCopiesHisPart)
@@ -149,7 +184,7 @@ TEST_F(ChangedPartTest, WholeAfterTheWindowWasErased)
     InputNothing();
     SendMessageW(library.GetWindowHandle(), WM_ERASEBKGND, 0, 0);
     PaintOnce();
-    EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+    ExpectNoClip();
     calls.Take();
     ExpectAConfinedFrame();
 }
@@ -174,7 +209,7 @@ TEST_F(ChangedPartTest, WholeOnANewScreen)
     shell.Move({100, 40, 900, 640});
     InputNothing();
     PaintOnce();
-    EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+    ExpectNoClip();
 }
 
 TEST_F(ChangedPartTest, WholeAfterACopyThatFailed)
@@ -212,10 +247,10 @@ TEST_F(ChangedPartTest, WholeWhileAnotherBackEndWaitsForItsWindow)
     CreateWithStroke();
     Choose(ChooseDirect2D);
     PaintOnce();
-    EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+    ExpectNoClip();
     Choose(ChooseGDI);
     PaintOnce();
-    EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+    ExpectNoClip();
 }
 
 TEST_F(ChangedPartTest, WholeWithACoordinateFarAway)
@@ -281,7 +316,7 @@ TEST_F(ChangedPartTest, ForDirect2DIsWholeWhereTheScreenBeginsElsewhere)
     InputStroke();
     PaintOnce();
     EXPECT_EQ(calls.Count("BitBlt"), 1U);
-    EXPECT_EQ(calls.Of("IntersectClipRect"), Lines{});
+    ExpectNoClip();
 }
 
 TEST_F(ChangedPartTest, ForDirectCompositionThereIsNone)
