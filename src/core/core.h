@@ -63,6 +63,7 @@ private:
     void GiveBack_();
     void GiveBackUserInterface_();
     void SetUpWindow_();
+    void RefuseWindow_();
     void FollowScreen_();
     void RunCommand_(unsigned id);
 

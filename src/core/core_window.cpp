@@ -46,12 +46,16 @@ void Core::OnCreated()
 
 void Core::SetUpWindow_()
 {
-    overlay.MakeClickThrough();
+    const bool isClickThrough = overlay.MakeClickThrough();
     if (Window() == nullptr) {
         return;
     }
-    canvas.Bind();
+    const bool isSeeThrough = canvas.Bind();
     if (Window() == nullptr) {
+        return;
+    }
+    if (!isClickThrough || !isSeeThrough) {
+        RefuseWindow_();
         return;
     }
     const bool isFitted = overlay.FitToScreen();
@@ -74,6 +78,14 @@ void Core::SetUpWindow_()
     if (g_userInterfaceSwitch) {
         overlay.RegisterHotkey();
     }
+}
+
+// A sheet over the whole screen is worse than no overlay. The window is not this Core's any more when it is
+// destroyed, so that nobody tells the host to quit.
+void Core::RefuseWindow_()
+{
+    GiveBackUserInterface_();
+    DestroyWindow(overlay.LetGo());
 }
 
 void Core::FollowScreen_()

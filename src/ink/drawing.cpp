@@ -8,6 +8,15 @@
 
 namespace zq::LM {
 
+// Some runtimes make a mutex at its first lock. That comes now, so that no input and no frame meets a lack of
+// memory in a lock.
+Drawing::Drawing()
+{
+    for (std::mutex* const each : {&samplesMutex, &paramsMutex, &rateMutex}) {
+        const std::lock_guard lock(*each);
+    }
+}
+
 void Drawing::SetCallbacks(ClearFunction clear, PresentFunction present, PickColorFunction pickColor,
                            SignedLineFunction drawLine, SignedLineFunction eraseLine,
                            DrawPenDataFunction drawPenData)

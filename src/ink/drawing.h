@@ -36,7 +36,7 @@ using SignedLineFunction = std::function<void(int, int, int, unsigned, int, int,
 // bits: after the clock's wrap it is negative, and thus below every ink life.
 class Drawing {
 public:
-    Drawing() = default;
+    Drawing(); // raises std::system_error where a mutex needs memory and there is none
     ~Drawing() = default;
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;

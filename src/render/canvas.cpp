@@ -2,8 +2,10 @@
 #include "render/canvas.h"
 
 #include "log/debug_log.h"
+#include "platform/dropped.h"
 #include "render/clip.h"
 #include "render/key_fill.h"
+#include "render/layered_window.h"
 #include "render/line_rules.h"
 #include "render/shell_window.h"
 
@@ -24,15 +26,20 @@ DrawingLib* Canvas::ActiveBackEnd() const
     return index < backEnds.size() ? backEnds[index].get() : nullptr;
 }
 
-void Canvas::Bind()
+bool Canvas::Bind()
 {
     boundType = g_renderingType;
     record.ForgetWindow();
+    record.SetWindowOpaque(false);
     isBoundWithoutSize = IsRectEmpty(&owner.Screen()) != 0;
+    constexpr BYTE Opaque = 255;
     const Use use(*this);
     if (DrawingLib* backEnd = ActiveBackEnd()) {
         backEnd->InitTransparentWindow(owner.Window(), g_colorKey);
+    } else if (DrawsIntoMemory(boundType)) { // nobody else lets the key through
+        record.SetWindowOpaque(!LetKeyThrough(owner.Window(), g_colorKey, Opaque, LWA_COLORKEY));
     }
+    return !record.IsWindowOpaque();
 }
 
 void Canvas::ClearWindowIfMemoryDrawn() const
@@ -70,7 +77,7 @@ void Canvas::FollowScreen()
         backEnd->Resize(owner.Window());
     }
     if (isBoundWithoutSize && HasWindow_()) {
-        Bind();
+        Dropped(Bind()); // the window lets the key through since its set-up
     }
 }
 

@@ -58,9 +58,10 @@ public:
 
     double Scale() const { return renderScale; }
 
-    // Steps of a window's set-up: the active back-end is bound to it; it is cleared to the key, if it is one
+    // Steps of a window's set-up: the active back-end is bound to it, false when the window would hide what
+    // lies below; it is cleared to the key, if it is one
     // that the memory bitmap is copied to; the bitmap is made anew, if the active back-end draws into one.
-    void Bind();
+    bool Bind();
     void ClearWindowIfMemoryDrawn() const;
     void SetUpSurface();
 

@@ -4,6 +4,7 @@
 #include "platform/dropped.h"
 #include "render/d2d_calls.h"
 #include "render/d2d_rules.h"
+#include "render/layered_window.h"
 #include "render/line_rules.h"
 #include "render/shell_window.h"
 
@@ -63,7 +64,7 @@ bool D2D::InitTransparentWindow(HWND newWindow, unsigned colorKey)
     constexpr BYTE Opaque = 255;
     window = newWindow;
     *clearColour = CrossedKeyColour(colorKey);
-    SetLayeredWindowAttributes(window, colorKey, Opaque, LWA_COLORKEY);
+    record.SetWindowOpaque(!LetKeyThrough(window, colorKey, Opaque, LWA_COLORKEY));
     return true;
 }
 

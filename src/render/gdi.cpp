@@ -6,6 +6,7 @@
 #include "platform/win32/gdiplus_flat.h"
 #include "render/gdi_lines.h"
 #include "render/key_fill.h"
+#include "render/layered_window.h"
 #include "render/line_rules.h"
 
 namespace zq::LM {
@@ -32,7 +33,7 @@ bool GDI::InitTransparentWindow(HWND newWindow, unsigned colorKey)
     LogAtNormal(L"zq::LM::GDI::InitTransparentWindow"); // without a line end
     window = newWindow;
     keyColour = colorKey;
-    SetLayeredWindowAttributes(window, colorKey, Opacity, LWA_COLORKEY | LWA_ALPHA);
+    record.SetWindowOpaque(!LetKeyThrough(window, colorKey, Opacity, LWA_COLORKEY | LWA_ALPHA));
     return true;
 }
 

@@ -53,6 +53,10 @@ private:
 // What bitmap and window hold, and so what the next frame clears and copies. Begins with both unknown.
 class PaintRecord {
 public:
+    // Whether the window hides what lies below it, because the system refused to let the key through.
+    void SetWindowOpaque(bool isOpaque) { isWindowOpaque = isOpaque; }
+    bool IsWindowOpaque() const { return isWindowOpaque; }
+
     // Nobody knows any more what the bitmap, the window, or either of them holds.
     void ForgetBitmap() { bitmap = PaintArea::Everything(); }
     void ForgetWindow() { window = PaintArea::Everything(); }
@@ -71,6 +75,7 @@ public:
 private:
     PaintArea bitmap = PaintArea::Everything();
     PaintArea window = PaintArea::Everything();
+    bool isWindowOpaque = false;
     bool isOpen = false; // a frame has begun and not come to its end
 };
 

@@ -164,10 +164,14 @@ void OverlayWindow::StartTimer()
     timer.Start(window, PeriodMilliseconds);
 }
 
-void OverlayWindow::MakeClickThrough()
+bool OverlayWindow::MakeClickThrough()
 {
+    constexpr LONG ClickThrough = WS_EX_TRANSPARENT | WS_EX_LAYERED;
     const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
-    SetWindowLongW(window, GWL_EXSTYLE, style | WS_EX_TRANSPARENT | WS_EX_LAYERED);
+    if (SetWindowLongW(window, GWL_EXSTYLE, style | ClickThrough) != 0) {
+        return true;
+    }
+    return (GetWindowLongW(window, GWL_EXSTYLE) & ClickThrough) == ClickThrough;
 }
 
 bool OverlayWindow::FitToScreen()

@@ -5,6 +5,8 @@
 #include "ui/hotkey.h"
 #include "ui/window_timer.h"
 
+#include <utility>
+
 namespace zq::LM {
 
 // What the overlay window tells its owner: inside the window's messages, on its thread.
@@ -59,15 +61,16 @@ public:
     // True for the messages of this window, and for the creation of the one that is to become it.
     bool Owns(HWND handle, UINT message) const;
 
-    HWND Handle() const { return window; } // null before creation and after destruction
+    HWND Handle() const { return window; }                  // null before creation and after destruction
+    HWND LetGo() { return std::exchange(window, nullptr); } // its messages are no longer served
 
     // Steps of creation and set-up.
     void ListenForShell(); // from now on the restart of the shell is an event
     void MeasurePixels();
     void StartTimer();
     void StopTimer() { timer.Stop(); }
-    void MakeClickThrough();
-    bool FitToScreen(); // true when it had to change the window's size
+    bool MakeClickThrough(); // false when the mouse would meet the window
+    bool FitToScreen();      // true when it had to change the window's size
     void RegisterHotkey() { hotkey.Register(window); }
     void UnregisterHotkey() { hotkey.Unregister(); }
 

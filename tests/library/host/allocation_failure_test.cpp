@@ -32,6 +32,19 @@ protected:
         return [refused](std::size_t size, unsigned) { return size >= refused; };
     }
 
+    // False when it raises something else than what says that memory has run out.
+    template <typename Work> static bool MayRaise(Work work)
+    {
+        try {
+            work();
+        } catch (const std::bad_alloc&) {
+            return true;
+        } catch (const std::exception&) {
+            return false;
+        }
+        return true;
+    }
+
     // Every export once, where there is no Core.
     void ExpectNoCore()
     {
@@ -146,7 +159,7 @@ protected:
         const auto call = [&raised](auto&& work) {
             try {
                 work();
-            } catch (const std::exception&) {
+            } catch (const std::bad_alloc&) { // and nothing else
                 raised = true;
             }
         };
@@ -233,6 +246,26 @@ TEST_F(AllocationFailure, OfTheInkEngineLeavesAnInstanceThatDrawsNothing)
     Tick();
     ExpectNoInkInTheMiddle();
     EXPECT_EQ(library.GetWindowHandle(), window);
+}
+
+// The window of a back-end that could not be made would have nobody to let its key through.
+TEST_F(AllocationFailure, OfAnythingLeavesNoWindowThatHidesTheDesktop)
+{
+    LiveOnce();
+    unsigned number = 0;
+    do {
+        memory.RefuseWhen(OfNumber(++number));
+        HWND window = nullptr;
+        EXPECT_TRUE(MayRaise([&] { window = library.Create(); }));
+        memory.RefuseNothing();
+        DWORD flags = 0;
+        if (window != nullptr) {
+            EXPECT_TRUE(GetLayeredWindowAttributes(window, nullptr, nullptr, &flags)) << number;
+            EXPECT_NE(flags & LWA_COLORKEY, 0U) << "after failure of allocation " << number;
+        }
+        DestroyAndForget();
+    } while (memory.Refused() != 0);
+    EXPECT_GT(number, 10U);
 }
 
 TEST_F(AllocationFailure, OfTheRecordLeavesAnInstanceThatKeepsTheDefaults)

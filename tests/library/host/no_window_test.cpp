@@ -1,6 +1,11 @@
 // An instance whose window could not be made: null is the only sign of it, and everything else is harmless.
 #include "support/hook/import_hook.h"
+#include "support/library/object_counts.h"
 #include "support/library/overlay_test.h"
+
+#include <shellapi.h>
+
+#include <vector>
 
 namespace zq::LM {
 namespace {
@@ -91,6 +96,83 @@ TEST_F(NoWindow, AFailingReplacementStillEndsTheFirstWindow)
     ExpectHarmlessInstance();
     classes.PassOn();
     test::PumpMessages();
+    ExpectWorkingInstance();
+}
+
+// What hides the desktop or takes its mouse is no overlay. Nobody is told to quit: no instance has ended.
+class NoSheet : public NoWindow {
+protected:
+    void ExpectNoSheet()
+    {
+        invalidations.Forget();
+        EXPECT_EQ(library.Create(), nullptr);
+        EXPECT_THAT(test::OverlayWindows(), ::testing::IsEmpty());
+        EXPECT_FALSE(test::PumpMessages());
+        ExpectHarmlessInstance();
+    }
+
+    Hook<"SetWindowLongW", decltype(SetWindowLongW)> styles{library.Module()};
+    Hook<"SetLayeredWindowAttributes", decltype(SetLayeredWindowAttributes)> keys{library.Module()};
+    Hook<"KillTimer", decltype(KillTimer)> timers{library.Module()};
+};
+
+TEST_F(NoSheet, AWindowThatTheMouseWouldMeetIsNotLeft)
+{
+    styles.Fail(0);
+    ExpectNoSheet();
+    EXPECT_EQ(timers.Count(), 1U);
+    styles.PassOn();
+    ExpectWorkingInstance();
+}
+
+TEST_F(NoSheet, AWindowWithoutItsKeyIsNotLeft)
+{
+    Select(test::ChooseGDI);
+    keys.Fail(FALSE);
+    ExpectNoSheet();
+    keys.PassOn();
+    ExpectWorkingInstance();
+}
+
+TEST_F(NoSheet, AWindowWithoutItsKeyIsNotLeftByARebuild)
+{
+    CreateWithGDI();
+    Choose(test::ChooseDirectComposition);
+    Choose(test::ChooseGDI);
+    keys.Fail(FALSE);
+    InputNothing();
+    EXPECT_EQ(library.GetWindowHandle(), nullptr);
+    EXPECT_EQ(test::OverlayWindows().size(), 1U); // the one before
+    EXPECT_FALSE(test::PumpMessages());
+    keys.PassOn();
+    ExpectWorkingInstance();
+}
+
+TEST_F(NoSheet, ItsIconGoesWithIt)
+{
+    std::vector<DWORD> shellCalls;
+    Hook<"Shell_NotifyIconW", decltype(Shell_NotifyIconW)> icons(library.Module(), [&](DWORD call, auto) {
+        shellCalls.push_back(call);
+        return TRUE;
+    });
+    library.SetDebugLevel(1);
+    styles.Fail(0);
+    EXPECT_EQ(library.Create(), nullptr);
+    EXPECT_THAT(shellCalls, ::testing::ElementsAre(DWORD{NIM_ADD}, DWORD{NIM_DELETE}));
+}
+
+// The answers alone say nothing about the window: a hook of the host's may swallow them.
+TEST_F(NoSheet, AnAnswerThatOnlyLooksLikeAFailureChangesNothing)
+{
+    Select(test::ChooseGDI);
+    styles.Answer([this](HWND window, int index, LONG value) {
+        styles.Real(window, index, value);
+        return 0;
+    });
+    keys.Answer([this](HWND window, COLORREF key, BYTE opacity, DWORD flags) {
+        keys.Real(window, key, opacity, flags);
+        return FALSE;
+    });
     ExpectWorkingInstance();
 }
 

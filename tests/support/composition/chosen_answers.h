@@ -37,6 +37,12 @@ public:
         return std::ranges::all_of(choices, [](const Choice& choice) { return choice.calls.WasUsed(); });
     }
 
+    bool AnyUsed() const
+    {
+        return std::ranges::any_of(choices, [](const Choice& choice) { return choice.calls.WasUsed(); });
+    }
+    void Clear() { choices.clear(); }
+
 private:
     struct Choice {
         std::string step;

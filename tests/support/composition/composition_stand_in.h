@@ -37,6 +37,8 @@ public:
     // From the nth call of the step on, counted from now, so many calls are not made and give this result.
     void Answer(const std::string& step, HRESULT result, unsigned nth = 1, unsigned times = 1);
     bool WereAnswersUsed() const { return recorder.answers.AllUsed(); }
+    bool WasAnswerUsed() const { return recorder.answers.AnyUsed(); }
+    void AnswerNormally() { recorder.answers.Clear(); }
 
     // What was presented last, by whichever swap chain.
     const Frame& LastFrame() const { return recorder.lastFrame; }

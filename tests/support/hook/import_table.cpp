@@ -49,6 +49,20 @@ void** FindImport(HMODULE module, const char* function)
     return nullptr;
 }
 
+void ForEachImport(HMODULE module, const std::function<void(const char*, const char*, void**)>& visit)
+{
+    for (const auto* imported = FirstImportedDll(module); imported->Name != 0; ++imported) {
+        const auto* dll = At<const char>(module, imported->Name);
+        const auto* name = At<const IMAGE_THUNK_DATA>(module, imported->OriginalFirstThunk);
+        auto* entry = At<void*>(module, imported->FirstThunk);
+        for (; name->u1.AddressOfData != 0; ++name, ++entry) {
+            if (!IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal)) {
+                visit(dll, At<const IMAGE_IMPORT_BY_NAME>(module, name->u1.AddressOfData)->Name, entry);
+            }
+        }
+    }
+}
+
 void WriteEntry(void** entry, void* address)
 {
     DWORD protection = 0;

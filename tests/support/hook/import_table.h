@@ -3,10 +3,15 @@
 
 #include <windows.h>
 
+#include <functional>
+
 namespace zq::LM::test {
 
 // Where the module keeps the address of an imported function; null when it does not import it.
 void** FindImport(HMODULE module, const char* function);
+
+// The DLL's name, the function's, and the place of its address, for each function that is imported by name.
+void ForEachImport(HMODULE module, const std::function<void(const char*, const char*, void**)>& visit);
 
 // The table is read-only otherwise.
 void WriteEntry(void** entry, void* address);
