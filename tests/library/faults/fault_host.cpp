@@ -170,7 +170,7 @@ void FaultHost::WithoutDevices_(const std::function<void()>& work)
 void FaultHost::Start_(const FaultScenario& scenario)
 {
     if (!imports) {
-        if (scenario.backEnd.command != ChooseGDI) {
+        if (scenario.NeedsDevices()) {
             graphics.emplace(ModuleWithDevices());
             graphics->Show(false);
         }
@@ -278,7 +278,7 @@ bool FaultHost::LiveOnce_(const FaultScenario& scenario, const std::vector<Fault
     const bool hasFailed = FailNoMore_();
     ExpectKnownLines_();
     ExpectUsable_();
-    ExpectNoSheet_();
+    ExpectNoSheet_(scenario);
     BeHealthyAgain_();
     return hasFailed;
 }
@@ -305,17 +305,14 @@ void FaultHost::ExpectUsable_()
 }
 
 // Every window of the library lets through what is below, to the eye and to the mouse.
-void FaultHost::ExpectNoSheet_() const
+void FaultHost::ExpectNoSheet_(const FaultScenario& scenario) const
 {
     constexpr LONG SeeThrough = WS_EX_LAYERED | WS_EX_TRANSPARENT;
-    bool isComposed = false;
     for (const HWND window : OverlayWindows()) {
-        const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
-        EXPECT_EQ(style & SeeThrough, SeeThrough);
-        isComposed = isComposed || (style & WS_EX_NOREDIRECTIONBITMAP) != 0;
+        EXPECT_EQ(GetWindowLongW(window, GWL_EXSTYLE) & SeeThrough, SeeThrough);
     }
-    if (isComposed) {
-        return; // it has no surface of its own to hide anything with; Wine gives it one
+    if (scenario.IsComposed()) {
+        return; // such a window has no surface of its own to hide anything with; Wine gives it one
     }
     SettleScreen();
     const Picture picture = TakePicture(Desktop);

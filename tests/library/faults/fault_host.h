@@ -75,7 +75,7 @@ private:
     bool FailNoMore_();
     void Start_(const FaultScenario& scenario);
     void ExpectUsable_();
-    void ExpectNoSheet_() const;
+    void ExpectNoSheet_(const FaultScenario& scenario) const;
     void ExpectKnownLines_() const;
     void ExpectGraphicsBalanced_() const;
     void BeHealthyAgain_();

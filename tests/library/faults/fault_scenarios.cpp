@@ -111,7 +111,8 @@ void AddChanges(std::vector<FaultScenario>& all)
                                host.PaintFrame();
                                host.Write();
                                host.Write();
-                           }});
+                           },
+                           to});
         }
     }
 }

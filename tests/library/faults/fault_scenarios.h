@@ -14,6 +14,13 @@ struct FaultScenario {
     BackEnd backEnd;
     std::function<void(FaultHost&)> prepare;
     std::function<void(FaultHost&)> live;
+    BackEnd changesTo = backEnd;
+
+    bool NeedsDevices() const { return backEnd.command != ChooseGDI || changesTo.command != ChooseGDI; }
+    bool IsComposed() const
+    {
+        return backEnd.command == ChooseDirectComposition || changesTo.command == ChooseDirectComposition;
+    }
 };
 
 // Names are letters and digits alone.

@@ -85,7 +85,7 @@ void InterruptingHost::Live()
 }
 
 // Every overlay window that is left, and the living one, lets through what is below.
-void InterruptingHost::ExpectNoSheet_() const
+void InterruptingHost::ExpectNoSheet() const
 {
     constexpr LONG SeeThrough = WS_EX_LAYERED | WS_EX_TRANSPARENT;
     for (const HWND window : OverlayWindows()) {
@@ -93,17 +93,28 @@ void InterruptingHost::ExpectNoSheet_() const
     }
 }
 
-void InterruptingHost::ExpectIntact()
+void InterruptingHost::ExpectFreedUntouched_()
 {
-    Disarm();
-    CheckHandle(library.GetWindowHandle());
-    ExpectNoSheet_();
-    PumpMessages();
-    DestroyAndForget();
     if (freed) {
         EXPECT_EQ(freed->Written(), 0U);
         freed.reset();
     }
+}
+
+void InterruptingHost::KeepFreedMemory()
+{
+    ExpectFreedUntouched_();
+    freed.emplace(library.Module());
+}
+
+void InterruptingHost::ExpectIntact()
+{
+    Disarm();
+    CheckHandle(library.GetWindowHandle());
+    ExpectNoSheet();
+    PumpMessages();
+    DestroyAndForget();
+    ExpectFreedUntouched_();
 
     const HWND window = library.Create();
     EXPECT_TRUE(IsWindow(window));

@@ -56,10 +56,13 @@ protected:
     // a new instance works and is the only one.
     void ExpectIntact();
 
-    void KeepFreedMemory() { freed.emplace(library.Module()); }
+    // What has been given back since the last time was not touched; from now on it is kept.
+    void KeepFreedMemory();
+
+    void ExpectNoSheet() const;
 
 private:
-    void ExpectNoSheet_() const;
+    void ExpectFreedUntouched_();
 
     Moment armedMoment = Moment::Before;
     unsigned countdown = 0;

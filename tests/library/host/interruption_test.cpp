@@ -6,6 +6,9 @@
 #include <commdlg.h>
 #include <shellapi.h>
 
+#include <cstdlib>
+#include <functional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -58,17 +61,25 @@ protected:
     }
 
     // Lives, interrupted once at each call in turn, until there is none left to interrupt.
-    void InterruptEachCall(Moment moment, const Action& action);
+    void InterruptEachCall(Moment moment, const Action& action)
+    {
+        InterruptEachCall(
+            moment, action.name, [this, &action] { (this->*action.run)(); }, AllMoments);
+    }
+    void InterruptEachCall(Moment moment, const std::string& name, const std::function<void()>& action,
+                           unsigned most);
+
+    static constexpr unsigned AllMoments = 200;
 };
 
-void Interruption::InterruptEachCall(Moment moment, const Action& action)
+void Interruption::InterruptEachCall(Moment moment, const std::string& name,
+                                     const std::function<void()>& action, unsigned most)
 {
-    constexpr unsigned Plenty = 200;
-    for (unsigned number = 1; number < Plenty && !HasFailure(); ++number) {
-        SCOPED_TRACE(action.name + std::string(" in call ") + std::to_string(number));
+    for (unsigned number = 1; number <= most && !HasFailure(); ++number) {
+        SCOPED_TRACE(name + " in call " + std::to_string(number));
         Select(ChooseGDI);
         KeepFreedMemory();
-        Arm(moment, number, [this, &action] { (this->*action.run)(); });
+        Arm(moment, number, action);
         Live();
         const bool wasInterrupted = HasFired();
         ExpectIntact();
@@ -92,6 +103,25 @@ TEST_P(EachCall, MayBeInterruptedByAnything)
     for (const Action& action : Actions) {
         for (const Moment moment : {Moment::Before, Moment::After}) {
             InterruptEachCall(moment, action);
+        }
+    }
+}
+
+// Where the host's action makes such a call itself, the host acts once more in it. LUMORA_TEST_MOMENTS=all
+// does so in every moment, otherwise in the first of each.
+TEST_P(EachCall, MayBeInterruptedWithinAnInterruption)
+{
+    const unsigned most = std::getenv("LUMORA_TEST_MOMENTS") != nullptr ? AllMoments : 1;
+    (this->*GetParam().interrupt)();
+    for (const Action& outer : Actions) {
+        for (const Action& inner : Actions) {
+            const auto act = [&] {
+                Arm(Moment::After, 1, [&] { (this->*inner.run)(); });
+                (this->*outer.run)();
+                Disarm();
+            };
+            InterruptEachCall(Moment::After, std::string(outer.name).append(" and then ").append(inner.name),
+                              act, most);
         }
     }
 }
