@@ -134,6 +134,17 @@ void EmptyFrame(PaintRecord& record)
     record.EndFrame();
 }
 
+TEST(PaintRecord, WindowIsTakenForSeeThroughUntilSomebodySaysOtherwise)
+{
+    PaintRecord record;
+    EXPECT_FALSE(record.IsWindowOpaque());
+    record.SetWindowOpaque(true);
+    record.Forget();
+    EXPECT_TRUE(record.IsWindowOpaque());
+    record.SetWindowOpaque(false);
+    EXPECT_FALSE(record.IsWindowOpaque());
+}
+
 TEST(PaintRecord, FirstFrameIsWhole)
 {
     PaintRecord record;

@@ -45,6 +45,23 @@ TEST(RenderingTypes, EachConsultingNamesTheTypeFromDetailedOn)
     g_renderingType = RenderingType::DirectComposition;
 }
 
+TEST(RenderingTypes, EachChoiceHoldsFromThenOnAndIsNamedFromBasicOn)
+{
+    for (const auto& [type, line] : {std::pair{0, "Direct Composition is set.\n"},
+                                     {1, "Direct2D is set.\n"},
+                                     {2, "GDI is set.\n"},
+                                     {3, ""}}) {
+        const test::RecordedLog log;
+        ChooseRenderingType(static_cast<RenderingType>(type));
+        EXPECT_EQ(log.Lines(), Lines{});
+        const test::LogLevel level(BASIC);
+        ChooseRenderingType(static_cast<RenderingType>(type));
+        EXPECT_EQ(static_cast<int>(g_renderingType), type);
+        EXPECT_EQ(log.Lines(), (Lines{{true, line}}));
+    }
+    g_renderingType = RenderingType::DirectComposition;
+}
+
 TEST(RenderingTypes, AllButDirectCompositionDrawIntoMemory)
 {
     EXPECT_FALSE(DrawsIntoMemory(RenderingType::DirectComposition));
