@@ -3,6 +3,7 @@
 #include "bare_overlay.h"
 #include "lumora/lumora.hpp"
 #include "support/composition/composition_stand_in.h"
+#include "support/library/private_memory.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -18,6 +19,7 @@ namespace {
 using lumora::BackEnd;
 using lumora::Library;
 using namespace zq::LM::bench;
+using zq::LM::test::PrivateKilobytes;
 
 constexpr int UsualFrames = 31;
 constexpr int Creations = 5;
@@ -36,20 +38,6 @@ template <typename Action> double Took(Action action)
     const double begin = Microseconds();
     action();
     return Microseconds() - begin;
-}
-
-// What the process has committed for itself alone. Not every system counts it.
-double PrivateKilobytes()
-{
-    double bytes = 0;
-    MEMORY_BASIC_INFORMATION region = {};
-    for (const char* place = nullptr; VirtualQuery(place, &region, sizeof(region)) != 0;
-         place = static_cast<const char*>(region.BaseAddress) + region.RegionSize) {
-        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) {
-            bytes += static_cast<double>(region.RegionSize);
-        }
-    }
-    return bytes / 1024;
 }
 
 // What else the machine does disturbs this one least.

@@ -77,20 +77,6 @@ protected:
         ExpectNoGrowth(lives, [this] { LiveThroughOnce(); });
     }
 
-    // They have numbers from 0 on.
-    unsigned RegisteredClasses() const
-    {
-        for (unsigned number = 0;; ++number) {
-            wchar_t name[64];
-            wsprintfW(name, L"Lumora Window Class_%05d", number);
-            WNDCLASSEXW description{};
-            description.cbSize = sizeof(description);
-            if (GetClassInfoExW(library.Module(), name, &description) == 0) {
-                return number;
-            }
-        }
-    }
-
     test::MemoryStandIn memory{library.Module()};
 };
 
@@ -161,12 +147,12 @@ TEST_F(ObjectCount, DoesNotGrowWithScreenChanges)
 TEST_F(ObjectCount, GrowsByOneClassForEachWindow)
 {
     LiveThroughOnce();
-    const unsigned before = RegisteredClasses();
+    const unsigned before = test::OverlayClasses(library.Module());
     ASSERT_GT(before, 0U);
     for (int i = 0; i < 20; ++i) {
         LiveThroughOnce();
     }
-    EXPECT_EQ(RegisteredClasses(), before + 20);
+    EXPECT_EQ(test::OverlayClasses(library.Module()), before + 20);
 }
 
 // What the system keeps for a window that is shown differs; with the window it must all be gone.

@@ -2,8 +2,6 @@
 // screen.
 #include "library/settings/settings_dialog_test.h"
 
-#include "support/library/object_counts.h"
-
 #include <algorithm>
 
 namespace zq::LM::test {
@@ -34,20 +32,9 @@ void SettingsDialogTest::OpenWithColour(COLORREF colour)
     Open();
 }
 
-std::vector<HWND> SettingsDialogTest::AllDialogs()
-{
-    std::vector<HWND> dialogs = WindowsOfClass(L"#32770");
-    std::erase_if(dialogs, [](HWND window) {
-        wchar_t title[64] = {};
-        GetWindowTextW(window, title, 64);
-        return std::wstring(title) != L"Orvane Settings";
-    });
-    return dialogs;
-}
-
 std::vector<HWND> SettingsDialogTest::OpenDialogs()
 {
-    std::vector<HWND> dialogs = AllDialogs();
+    std::vector<HWND> dialogs = SettingsDialogs();
     std::erase_if(dialogs, [](HWND window) { return !IsWindowVisible(window); });
     return dialogs;
 }

@@ -4,6 +4,7 @@
 
 #include "resources/resource_ids.h"
 #include "support/fakes/cursor.h"
+#include "support/library/object_counts.h"
 #include "support/library/overlay_test.h"
 
 #include <commctrl.h>
@@ -26,7 +27,7 @@ protected:
     void OpenWithColour(COLORREF colour);
 
     // The library's dialog windows of this thread: all, or those that are not hidden.
-    static std::vector<HWND> AllDialogs();
+    static std::vector<HWND> AllDialogs() { return SettingsDialogs(); }
     static std::vector<HWND> OpenDialogs();
 
     HWND Control(int id) const { return GetDlgItem(dialog, id); }

@@ -78,6 +78,46 @@ std::size_t CountSystemHandles()
     return count;
 }
 
+BOOL CALLBACK CountWindow(HWND window, LPARAM parameter)
+{
+    ++*reinterpret_cast<std::size_t*>(parameter);
+    if (GetParent(window) == nullptr) {
+        EnumChildWindows(window, CountWindow, parameter);
+    }
+    return TRUE;
+}
+
+// This thread's, and those of the process that are for messages only.
+std::size_t CountWindows()
+{
+    std::size_t count = 0;
+    EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
+    HWND window = nullptr;
+    while ((window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        count += owner == GetCurrentProcessId() ? 1 : 0;
+    }
+    return count;
+}
+
+// Each place of Wine's table is asked for: a handle without its upper half names whatever is there.
+std::size_t CountMenusAndIcons()
+{
+    constexpr std::uintptr_t FirstHandle = 0x20;
+    constexpr std::uintptr_t EndOfHandles = 0x10000;
+    const auto frameOf = reinterpret_cast<HCURSOR(WINAPI*)(HCURSOR, DWORD, DWORD, DWORD*, DWORD*)>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetCursorFrameInfo")));
+    std::size_t count = 0;
+    for (std::uintptr_t handle = FirstHandle; handle < EndOfHandles; handle += 2) {
+        DWORD rate = 0;
+        DWORD steps = 0;
+        count += IsMenu(reinterpret_cast<HMENU>(handle)) != 0 ? 1 : 0;
+        count += frameOf(reinterpret_cast<HCURSOR>(handle), 0, 0, &rate, &steps) != nullptr ? 1 : 0;
+    }
+    return count;
+}
+
 struct WindowSearch {
     const std::wstring& prefix;
     std::vector<HWND> found;
@@ -104,6 +144,12 @@ std::size_t GdiObjects()
     return counted != 0 ? counted : CountGdiTable();
 }
 
+std::size_t UserObjects()
+{
+    const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    return counted != 0 ? counted : CountWindows() + CountMenusAndIcons();
+}
+
 std::size_t KernelHandles()
 {
     DWORD counted = 0;
@@ -119,6 +165,30 @@ std::vector<HWND> WindowsOfClass(const std::wstring& prefix)
 }
 
 std::vector<HWND> OverlayWindows() { return WindowsOfClass(L"Lumora Window Class_"); }
+
+std::vector<HWND> SettingsDialogs()
+{
+    std::vector<HWND> dialogs = WindowsOfClass(L"#32770");
+    std::erase_if(dialogs, [](HWND window) {
+        wchar_t title[64] = {};
+        GetWindowTextW(window, title, 64);
+        return std::wstring(title) != L"Orvane Settings";
+    });
+    return dialogs;
+}
+
+unsigned OverlayClasses(HMODULE library)
+{
+    for (unsigned number = 0;; ++number) {
+        wchar_t name[64];
+        wsprintfW(name, L"Lumora Window Class_%05d", number);
+        WNDCLASSEXW description{};
+        description.cbSize = sizeof(description);
+        if (GetClassInfoExW(library, name, &description) == 0) {
+            return number;
+        }
+    }
+}
 
 void DestroyLeftWindows(HWND living)
 {
