@@ -21,6 +21,24 @@ void LogPort(std::uint16_t port)
 // The server reports no failure.
 void DropLastError() { Dropped(WSAGetLastError()); }
 
+// A program that the host starts with its inheritable handles would keep the connection beyond the server's
+// end.
+void KeepFromChildren(SOCKET socket)
+{
+    if (socket == INVALID_SOCKET) {
+        return; // as a handle it would be this process
+    }
+    Dropped(SetHandleInformation(reinterpret_cast<HANDLE>(socket), HANDLE_FLAG_INHERIT, 0));
+}
+
+// Another program could otherwise ask to share the port, and take the clients.
+void KeepPortFromOthers(SOCKET socket)
+{
+    const BOOL on = TRUE;
+    Dropped(
+        setsockopt(socket, SOL_SOCKET, SO_EXCLUSIVEADDRUSE, reinterpret_cast<const char*>(&on), sizeof(on)));
+}
+
 } // namespace
 
 BrushDataServer::BrushDataServer(std::uint16_t port) : port(port)
@@ -54,6 +72,8 @@ void BrushDataServer::Listen_()
 {
     constexpr int WaitingClients = 1;
     listener = socket(AF_INET, SOCK_STREAM, 0);
+    KeepFromChildren(listener);
+    KeepPortFromOthers(listener);
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_port = htons(port);
@@ -68,7 +88,9 @@ void BrushDataServer::ServeClients_()
     while (exchange.IsRunning()) {
         sockaddr_in peer{}; // of no interest
         int size = sizeof(peer);
-        ReceiveFrom_(accept(listener, reinterpret_cast<sockaddr*>(&peer), &size));
+        const SOCKET client = accept(listener, reinterpret_cast<sockaddr*>(&peer), &size);
+        KeepFromChildren(client);
+        ReceiveFrom_(client);
     }
 }
 

@@ -76,6 +76,17 @@ std::uint16_t FreePort()
     return ntohs(address.sin_port);
 }
 
+bool CanShare(std::uint16_t port)
+{
+    const Probe probe;
+    const BOOL on = TRUE;
+    EXPECT_EQ(
+        setsockopt(probe.Get(), SOL_SOCKET, SO_REUSEADDR, reinterpret_cast<const char*>(&on), sizeof(on)), 0);
+    sockaddr_in address = Loopback(port);
+    address.sin_addr.s_addr = htonl(INADDR_ANY);
+    return bind(probe.Get(), reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+}
+
 bool IsAnswered(std::uint16_t port)
 {
     const Probe probe;

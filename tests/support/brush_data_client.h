@@ -25,8 +25,9 @@ private:
     SOCKET socket;
 };
 
-// These two start a Winsock of their own and end it again.
+// These start a Winsock of their own and end it again.
 std::uint16_t FreePort(); // nobody listens at it
 bool IsAnswered(std::uint16_t port);
+bool CanShare(std::uint16_t port); // bind to it at every local address beside whoever has it already
 
 } // namespace zq::LM::test

@@ -24,7 +24,12 @@ WorkerCalls::State::State() : accept(Program()), receive(Program()), close(Progr
             ++accepts;
         }
     });
-    receive.Before([this](SOCKET, char*, int, int) { receives += IsWorker() ? 1 : 0; });
+    receive.Before([this](SOCKET socket, char*, int, int) {
+        if (IsWorker()) {
+            client = socket;
+            ++receives;
+        }
+    });
     close.Before([this](SOCKET socket) {
         closes += IsWorker() ? 1 : 0;
         const std::lock_guard lock(mutex);

@@ -27,6 +27,7 @@ public:
     void WaitForReceives(unsigned count) const { WaitFor_(state.receives, count, "receives"); }
 
     SOCKET Listener() const { return state.listener; } // what the last accept was called on
+    SOCKET Client() const { return state.client; }     // and the last receive
     std::vector<SOCKET> Closed() const;                // by hand, on any thread
 
 private:
@@ -39,6 +40,7 @@ private:
         std::atomic<unsigned> receives = 0;
         std::atomic<unsigned> closes = 0;
         std::atomic<SOCKET> listener = INVALID_SOCKET;
+        std::atomic<SOCKET> client = INVALID_SOCKET;
         std::mutex mutex;
         std::vector<SOCKET> closed;
         Hook<"accept", decltype(::accept)> accept;

@@ -26,6 +26,13 @@ using Lines = std::vector<std::string>;
 const LogLine Started = {false, "DLL has started TCP/IP Server to receive Brush Data.\n"};
 const LogLine Closed = {false, "DLL has closed TCP/IP Server.\n"};
 
+bool IsInherited(SOCKET socket)
+{
+    DWORD flags = 0;
+    EXPECT_NE(GetHandleInformation(reinterpret_cast<HANDLE>(socket), &flags), 0);
+    return (flags & HANDLE_FLAG_INHERIT) != 0;
+}
+
 LogLine PortLine(std::uint16_t port) { return {false, "Port = " + std::to_string(port) + "\n"}; }
 
 class BrushDataServerLife : public ::testing::Test {
@@ -35,6 +42,8 @@ protected:
     {
         calls.Record<"WSAStartup">(WSAStartup);
         calls.Record<"socket">(socket);
+        calls.Record<"SetHandleInformation">(SetHandleInformation);
+        calls.Record<"setsockopt">(setsockopt);
         calls.Answer<"bind">(bind, [this](SOCKET, const sockaddr* address, int) {
             bound = *reinterpret_cast<const sockaddr_in*>(address);
             return 0;
@@ -117,12 +126,14 @@ TEST_F(BrushDataServerLife, WithItsPortInUseStartsAllTheSameAndTriesUntilItEnds)
     const BrushDataClient client(port);
     worker.WaitForReceives(1);
     const unsigned before = worker.Accepts();
+    calls.Record<"SetHandleInformation">(SetHandleInformation);
     const LogLevel basic(BASIC);
     const RecordedLog log;
     {
         BrushDataServer second(port);
         EXPECT_EQ(log.Lines(), (std::vector<LogLine>{Started, PortLine(port)}));
-        worker.WaitForAccepts(before + 1000); // without a pause
+        worker.WaitForAccepts(before + 1000);               // without a pause
+        EXPECT_EQ(calls.Count("SetHandleInformation"), 1U); // of its own socket, and of none that failed
         EXPECT_EQ(second.TakeReceivedBytes(), test::Bytes{});
     }
     EXPECT_EQ(log.Lines().back(), Closed);
@@ -150,6 +161,35 @@ TEST_F(BrushDataServerLife, WithoutWinsockDoesNothing)
     EXPECT_EQ(log.Lines(), std::vector<LogLine>{Closed});
 }
 
+// A program that the host starts would otherwise keep the port, and a client's connection, beyond the
+// server's end.
+TEST_F(BrushDataServerLife, KeepsItsSocketsFromProgramsThatTheHostStarts)
+{
+    const BrushDataServer server(port);
+    const BrushDataClient client(port);
+    worker.WaitForReceives(1);
+    EXPECT_FALSE(IsInherited(worker.Listener()));
+    EXPECT_FALSE(IsInherited(worker.Client()));
+
+    const SOCKET plain = socket(AF_INET, SOCK_STREAM, 0);
+    EXPECT_TRUE(IsInherited(plain)); // as the system makes them
+    closesocket(plain);
+}
+
+TEST_F(BrushDataServerLife, HasItsPortForItselfAlone)
+{
+    BOOL isExclusive = FALSE;
+    calls.Record<"bind">(bind).Before([&](SOCKET socket, const sockaddr*, int) {
+        int size = sizeof(isExclusive);
+        EXPECT_EQ(
+            getsockopt(socket, SOL_SOCKET, SO_EXCLUSIVEADDRUSE, reinterpret_cast<char*>(&isExclusive), &size),
+            0);
+    });
+    const BrushDataServer server(port);
+    EXPECT_NE(isExclusive, FALSE);
+    EXPECT_FALSE(test::CanShare(port));
+}
+
 TEST_F(BrushDataServerLife, StartsAndEndsInAFixedOrder)
 {
     RecordCalls();
@@ -158,6 +198,8 @@ TEST_F(BrushDataServerLife, StartsAndEndsInAFixedOrder)
     }
     EXPECT_THAT(calls.Take(),
                 ::testing::ElementsAre("WSAStartup(2, *)", "socket(2, 1, 0)",
+                                       ::testing::MatchesRegex("SetHandleInformation\\(.*, 1, 0\\)"),
+                                       ::testing::MatchesRegex("setsockopt\\(.*, 65535, -5, .*, 4\\)"),
                                        ::testing::MatchesRegex("bind\\(.*, \\*, 16\\)"),
                                        ::testing::MatchesRegex("listen\\(.*, 1\\)"), "WSACleanup()"));
     EXPECT_EQ(bound.sin_family, AF_INET);
