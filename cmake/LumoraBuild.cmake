@@ -80,6 +80,11 @@ function(lumora_shipped target)
       COMMAND ${CMAKE_OBJCOPY} -p --strip-all "--add-gnu-debuglink=$<TARGET_FILE:${target}>.debug" "$<TARGET_FILE:${target}>" VERBATIM)
   elseif(MSVC)
     target_link_options(${target} PRIVATE /DEBUG /OPT:REF /OPT:ICF)
+    # All that it is linked with comes from the system's folder, and no file beside the program takes its place. A runtime that is
+    # a library may lie there.
+    if(NOT CMAKE_MSVC_RUNTIME_LIBRARY MATCHES "DLL$")
+      target_link_options(${target} PRIVATE /DEPENDENTLOADFLAG:0x800)
+    endif()
   endif()
 endfunction()
 

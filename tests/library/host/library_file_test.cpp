@@ -12,7 +12,9 @@
 #include <map>
 #include <set>
 #include <sstream>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zq::LM {
@@ -35,10 +37,30 @@ std::set<std::string> Words(const std::string& text)
     return {std::istream_iterator<std::string>(words), {}};
 }
 
+std::wstring BesideTheLibrary(const wchar_t* name)
+{
+    const std::wstring library = test::LibraryPath();
+    return library.substr(0, library.find_last_of(L'\\') + 1) + name;
+}
+
 // As the system's loader maps it; none of its code runs.
-class LibraryFile : public ::testing::Test {
-protected:
-    ~LibraryFile() override { FreeLibrary(file); }
+class BuiltFile {
+public:
+    explicit BuiltFile(const std::wstring& path)
+        : file(LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE))
+    {
+        if (file == nullptr) {
+            throw std::runtime_error("a built file is missing");
+        }
+    }
+    ~BuiltFile() { FreeLibrary(file); }
+    BuiltFile(const BuiltFile&) = delete;
+    BuiltFile& operator=(const BuiltFile&) = delete;
+
+    const IMAGE_NT_HEADERS64& Headers() const
+    {
+        return *At<IMAGE_NT_HEADERS64>(static_cast<ULONGLONG>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    }
 
     template <typename Type> const Type* At(ULONGLONG address) const
     {
@@ -48,7 +70,7 @@ protected:
 
     template <typename Directory> const Directory* DirectoryOf(std::size_t index) const
     {
-        return At<Directory>(headers.OptionalHeader.DataDirectory[index].VirtualAddress);
+        return At<Directory>(Headers().OptionalHeader.DataDirectory[index].VirtualAddress);
     }
 
     std::vector<std::string> Exports() const
@@ -78,6 +100,15 @@ protected:
         return imports;
     }
 
+    std::set<std::string> ImportedLibraries() const
+    {
+        std::set<std::string> names;
+        for (const auto& [library, functions] : Imports()) {
+            names.insert(library);
+        }
+        return names;
+    }
+
     std::set<std::string> ImportedFunctions() const
     {
         std::set<std::string> names;
@@ -87,9 +118,26 @@ protected:
         return names;
     }
 
-    HMODULE file = LoadLibraryExW(test::LibraryPath(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE);
-    const IMAGE_NT_HEADERS64& headers =
-        *At<IMAGE_NT_HEADERS64>(static_cast<ULONGLONG>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    bool HasText(const std::string& text) const
+    {
+        const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(&Headers());
+        for (WORD i = 0; i < Headers().FileHeader.NumberOfSections; ++i, ++section) {
+            const std::string_view bytes(At<char>(section->VirtualAddress), section->Misc.VirtualSize);
+            if (bytes.find(text) != std::string_view::npos) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+private:
+    HMODULE file;
+};
+
+class LibraryFile : public ::testing::Test {
+protected:
+    BuiltFile file{test::LibraryPath()};
+    const IMAGE_NT_HEADERS64& headers = file.Headers();
 };
 
 TEST_F(LibraryFile, IsALibraryForX64)
@@ -102,18 +150,15 @@ TEST_F(LibraryFile, IsALibraryForX64)
 
 TEST_F(LibraryFile, ExportsExactlyTheNineFunctionsUndecorated)
 {
-    EXPECT_THAT(Exports(), ElementsAre("LM_Create", "LM_Destroy", "LM_GetCopiedParams", "LM_GetElmSize",
-                                       "LM_GetWindowHandle", "LM_InputPenDataArray", "LM_SetData_from_App",
-                                       "LM_SetDebugLevel", "LM_SetParams"));
+    EXPECT_THAT(file.Exports(), ElementsAre("LM_Create", "LM_Destroy", "LM_GetCopiedParams", "LM_GetElmSize",
+                                            "LM_GetWindowHandle", "LM_InputPenDataArray",
+                                            "LM_SetData_from_App", "LM_SetDebugLevel", "LM_SetParams"));
 }
 
 // The runtime is linked statically: a host needs no other file beside the library.
 TEST_F(LibraryFile, ImportsFromWindowsOwnLibrariesOnly)
 {
-    std::set<std::string> libraries;
-    for (const auto& [library, functions] : Imports()) {
-        libraries.insert(library);
-    }
+    const std::set<std::string> libraries = file.ImportedLibraries();
     // ADVAPI32 has random numbers for the compiler's stack guard, MSVCRT is the C runtime that comes with
     // Windows.
     EXPECT_THAT(libraries,
@@ -125,7 +170,7 @@ TEST_F(LibraryFile, ImportsFromWindowsOwnLibrariesOnly)
 
 TEST_F(LibraryFile, ImportsNothingByOrdinal)
 {
-    for (const auto& [library, functions] : Imports()) {
+    for (const auto& [library, functions] : file.Imports()) {
         if (library != "WS2_32.DLL") { // its numbers are as fixed as its names; compilers take either
             EXPECT_THAT(functions, ::testing::Each(::testing::Not(::testing::StartsWith("#")))) << library;
         }
@@ -134,7 +179,7 @@ TEST_F(LibraryFile, ImportsNothingByOrdinal)
 
 TEST_F(LibraryFile, NeverTouchesTheRegistry)
 {
-    for (const std::string& function : ImportedFunctions()) {
+    for (const std::string& function : file.ImportedFunctions()) {
         EXPECT_FALSE(function.starts_with("Reg") && !function.starts_with("Register")) << function;
         EXPECT_FALSE(function.starts_with("SHReg") || function.starts_with("SHSetValue") ||
                      function.starts_with("SHGetValue") || function.starts_with("WriteProfile") ||
@@ -162,7 +207,7 @@ TEST_F(LibraryFile, WritesNoFilesBeyondWhatTheRuntimeBringsAlong)
         Words("_open _write fprintf fputc fputs fputwc fwprintf fwrite vfprintf");
 #endif
     std::set<std::string> imported;
-    for (const std::string& function : ImportedFunctions()) {
+    for (const std::string& function : file.ImportedFunctions()) {
         if (writing.contains(function)) {
             imported.insert(function);
         }
@@ -170,20 +215,28 @@ TEST_F(LibraryFile, WritesNoFilesBeyondWhatTheRuntimeBringsAlong)
     EXPECT_THAT(imported, IsSubsetOf(runtimes));
 }
 
-TEST_F(LibraryFile, MayBePlacedAnywhereInTheWholeAddressSpace)
+// The library, and every program that is packed beside it.
+class HardenedFile : public ::testing::TestWithParam<const wchar_t*> {
+protected:
+    BuiltFile file{BesideTheLibrary(GetParam())};
+    const IMAGE_NT_HEADERS64& headers = file.Headers();
+};
+
+TEST_P(HardenedFile, MayBePlacedAnywhereInTheWholeAddressSpace)
 {
     EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, 0);
     EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA, 0);
-    EXPECT_EQ(headers.FileHeader.Characteristics & IMAGE_FILE_RELOCS_STRIPPED,
-              0); // else it could not be moved
+    // Else it could not be moved.
+    EXPECT_EQ(headers.FileHeader.Characteristics & IMAGE_FILE_RELOCS_STRIPPED, 0);
+    EXPECT_NE(headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_BASERELOC].Size, 0U);
 }
 
-TEST_F(LibraryFile, RunsNoData)
+TEST_P(HardenedFile, RunsNoData)
 {
     EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_NX_COMPAT, 0);
 }
 
-TEST_F(LibraryFile, HasNoSectionThatIsBothWritableAndExecutable)
+TEST_P(HardenedFile, HasNoSectionThatIsBothWritableAndExecutable)
 {
     const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(&headers);
     bool hasCode = false;
@@ -194,6 +247,45 @@ TEST_F(LibraryFile, HasNoSectionThatIsBothWritableAndExecutable)
     }
     EXPECT_TRUE(hasCode);
 }
+
+TEST_P(HardenedFile, GuardsItsStack)
+{
+#ifdef _MSC_VER
+    const auto* config = file.DirectoryOf<IMAGE_LOAD_CONFIG_DIRECTORY64>(IMAGE_DIRECTORY_ENTRY_LOAD_CONFIG);
+    EXPECT_NE(config->SecurityCookie, 0U);
+    EXPECT_NE(headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_GUARD_CF, 0);
+    EXPECT_NE(config->GuardFlags & IMAGE_GUARD_CF_INSTRUMENTED, 0U);
+#else // what the guard says when it ends the process
+    EXPECT_TRUE(file.HasText("stack smashing detected"));
+#endif
+}
+
+// Delayed ones would be looked for when nobody expects it.
+TEST_P(HardenedFile, LoadsNothingLater)
+{
+    EXPECT_EQ(headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_DELAY_IMPORT].Size, 0U);
+}
+
+TEST_P(HardenedFile, IsLinkedWithWindowsOwnLibrariesAndTheLibraryAlone)
+{
+    EXPECT_THAT(
+        file.ImportedLibraries(),
+        IsSubsetOf(Words("ADVAPI32.DLL COMCTL32.DLL COMDLG32.DLL D2D1.DLL D3D11.DLL DCOMP.DLL "
+                         "DWRITE.DLL DXGI.DLL GDI32.DLL GDIPLUS.DLL HID.DLL KERNEL32.DLL LUMORADLL.DLL "
+                         "MSVCRT.DLL OLE32.DLL SHCORE.DLL SHELL32.DLL USER32.DLL VERSION.DLL "
+                         "WINMM.DLL WS2_32.DLL WTSAPI32.DLL")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, HardenedFile,
+                         ::testing::Values(L"LumoraDLL.dll", L"lumora-pen.exe", L"lumora-replay.exe",
+                                           L"lumora-pen-host.exe"),
+                         [](const auto& file) {
+                             std::string name;
+                             for (const wchar_t* letter = file.param; *letter != L'.'; ++letter) {
+                                 name += *letter == L'-' ? '_' : static_cast<char>(*letter);
+                             }
+                             return name;
+                         });
 
 } // namespace
 } // namespace zq::LM
