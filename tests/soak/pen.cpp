@@ -7,6 +7,7 @@ namespace zq::LM::soak {
 
 namespace {
 
+constexpr int FullPressure = 32767;
 constexpr double FullTurn = 6.283185307179586;
 
 // A place between two, by the sine of so many turns.
@@ -41,9 +42,20 @@ LM_PenData Pen::Lifted() const
     return lifted;
 }
 
+std::vector<LM_PenData> Pen::Line() const
+{
+    LM_PenData from{};
+    from.time = 1;
+    from.x = area.left;
+    from.y = (area.top + area.bottom) / 2;
+    from.pressure = FullPressure;
+    LM_PenData to = from;
+    to.x = area.right;
+    return {from, to};
+}
+
 LM_PenData Pen::Next_()
 {
-    constexpr int FullPressure = 32767;
     const double seconds = number / SamplesASecond;
     const int place = number % strokeLength;
     last = {};

@@ -22,6 +22,9 @@ public:
     // The pen at its last place, off the surface.
     LM_PenData Lifted() const;
 
+    // A line through the middle of the area, beside the curve.
+    std::vector<LM_PenData> Line() const;
+
 private:
     LM_PenData Next_();
 

@@ -63,6 +63,8 @@ std::vector<Scene> Tour(Random& random)
             scene.backEnd = backEnd;
             scene.restarts = level != 0; // which brings the tray icon
             scene.logLevel = level;
+            scene.record.inkDecayTime = 1000; // long enough to be seen on a busy machine
+            scene.record.colorPicker = 0;     // nor is the ground's colour picked
             scene.opensSettings = true;
             scene.closesSettings = true;
             scene.looksForInk = true;

@@ -76,12 +76,12 @@ void Soak::Play_(const Scene& scene)
         }
         if (!isHalfOver && now > length / 2) {
             isHalfOver = true;
-            PlayMiddle_(scene);
+            PlayMiddle_(scene, pen);
         }
         host.PumpFor(1);
     }
     if (!isHalfOver) { // frames may take long
-        PlayMiddle_(scene);
+        PlayMiddle_(scene, pen);
     }
     if (scene.closesSettings) {
         host.CloseSettings();
@@ -106,9 +106,10 @@ void Soak::WriteSamples_(const Scene& scene, const std::vector<LM_PenData>& samp
     }
 }
 
-void Soak::PlayMiddle_(const Scene& scene)
+void Soak::PlayMiddle_(const Scene& scene, const Pen& pen)
 {
     if (scene.looksForInk && scene.logLevel == 0) { // then nothing but ink is above the ground
+        WriteSamples_(scene, pen.Line());
         interval.inkSeen[IndexOf(host.Chosen())] += host.ShowsAnything() ? 1 : 0;
     }
     if (scene.opensSettings) {

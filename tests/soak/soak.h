@@ -34,7 +34,7 @@ private:
 
     void Play_(const Scene& scene);
     void WriteSamples_(const Scene& scene, const std::vector<LM_PenData>& samples);
-    void PlayMiddle_(const Scene& scene);
+    void PlayMiddle_(const Scene& scene, const Pen& pen);
     void LookForGhosts_(const Pen& pen);
     void WriteRow_(double seconds, std::ostream& csv);
 
