@@ -18,6 +18,6 @@ set xlabel "minutes"
 set logscale y
 set yrange [*:*]
 plot file using ($1/60):($23/1000) every ::1 with lines linecolor 1 title "GDI, median", \
-    file using ($1/60):($24/1000) every ::1 with lines linecolor 1 dashtype 2 title "GDI, 99th percentile", \
-    file using ($1/60):($25/1000) every ::1 with points linecolor 2 pointtype 7 pointsize 0.3 title "Direct2D, median", \
-    file using ($1/60):($26/1000) every ::1 with points linecolor 2 pointtype 6 pointsize 0.3 title "Direct2D, 99th"
+    file using ($1/60):($24/1000) every ::1 with lines linecolor 3 title "GDI, 99th percentile", \
+    file using ($1/60):($25/1000) every ::1 with points linecolor 2 pointtype 7 pointsize 0.5 title "Direct2D, median", \
+    file using ($1/60):($26/1000) every ::1 with points linecolor 4 pointtype 7 pointsize 0.5 title "Direct2D, 99th"
