@@ -60,6 +60,13 @@ private:
     void Do(const UseLogLevel& step) { SetDebugLevel(step.level); }
     void Do(const AskOptions& step) { mask = step.mask; }
     void Do(const ClearLive&) { drawing.ClearLivePenData(); }
+    void Do(const BindAgain&) { calls.BindTo(drawing); }
+    void Do(const PassNothing&)
+    {
+        drawing.SetParams(nullptr);
+        drawing.GetCopiedParams(nullptr);
+        drawing.AddPenDataAry(nullptr, 1);
+    }
 
     RecordedCalls calls;
     Drawing drawing;

@@ -156,6 +156,8 @@ Step OneStep(Dice& dice)
         return ClearLive{};
     case 96:
         return AskOptions{dice.Any()};
+    case 97:
+        return dice.OneIn(2) ? Step(BindAgain{}) : Step(PassNothing{});
     default:
         return UseLogLevel{dice.Number({0, 1, 2, 3, 3, 254, 255, 255, 256})};
     }

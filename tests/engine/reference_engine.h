@@ -126,9 +126,9 @@ private:
         rate = 0;
         if (live.size() > 1) {
             const std::int64_t span = Since(live.back().time, live.front().time);
-            const auto low = static_cast<std::int32_t>(span); // all that this line prints
-            Say("Warning (zq::LM::Drawing::CalcPenReportRate_) : time_sub = " + std::to_string(low) + "\n",
-                span < 0 && GetDebugLevel() >= 3);
+            if (span < 0) {
+                WarnOf("CalcPenReportRate_", static_cast<std::int32_t>(span)); // all that this line prints
+            }
             rate = span > 0 ? live.size() * 1000 / static_cast<std::uint64_t>(span) : 0;
         }
     }
@@ -256,23 +256,27 @@ private:
         calls.push_back(DrawLine(from, to, Whole<std::uint32_t>(width * scale), colour));
     }
 
-    void Say(const std::string& line, bool appears)
+    void SayLocked(const char* operation, bool appears)
     {
         if (appears) {
-            lines.push_back(line);
+            lines.push_back(std::string("\t").append(operation).append(" is locked.\n"));
+            lines.push_back(std::string("\t").append(operation).append(" is unlocked.\n"));
         }
     }
 
-    void SayLocked(const std::string& operation, bool appears)
+    void Warn(const char* operation, std::int64_t difference)
     {
-        Say("\t" + operation + " is locked.\n", appears);
-        Say("\t" + operation + " is unlocked.\n", appears);
+        if (difference < 0) {
+            WarnOf(operation, difference);
+        }
     }
 
-    void Warn(const std::string& operation, std::int64_t difference)
+    void WarnOf(const char* operation, std::int64_t difference)
     {
-        Say("Warning (zq::LM::Drawing::" + operation + ") : time_sub = " + std::to_string(difference) + "\n",
-            difference < 0 && GetDebugLevel() >= 3);
+        if (GetDebugLevel() >= 3) {
+            lines.push_back("Warning (zq::LM::Drawing::" + std::string(operation) +
+                            ") : time_sub = " + std::to_string(difference) + "\n");
+        }
     }
 
     bool IsStroke(std::size_t i) const { return live[i].pressure > 0 && live[i + 1].pressure > 0; }

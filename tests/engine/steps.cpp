@@ -36,6 +36,8 @@ public:
     void operator()(const DrawFrame&) const { Put("DrawFrame"); }
     void operator()(const Tick&) const { Put("Tick"); }
     void operator()(const ClearLive&) const { Put("ClearLive"); }
+    void operator()(const BindAgain&) const { Put("BindAgain"); }
+    void operator()(const PassNothing&) const { Put("PassNothing"); }
     void operator()(const MoveClockBy& step) const { Put("MoveClockBy", step.milliseconds); }
     void operator()(const UseScale& step) const { Put("UseScale", step.factor); }
     void operator()(const UseVectorOutline& step) const { Put("UseVectorOutline", step.on); }

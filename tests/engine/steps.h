@@ -41,9 +41,11 @@ struct AskOptions {
     std::uint32_t mask;
 };
 struct ClearLive {};
+struct BindAgain {};   // the same callbacks
+struct PassNothing {}; // null for a record, for where one is to go and for samples
 
 using Step = std::variant<AddSamples, DrawFrame, Tick, MoveClockBy, UseRecord, UseScale, UseVectorOutline,
-                          UseScreen, UseLogLevel, AskOptions, ClearLive>;
+                          UseScreen, UseLogLevel, AskOptions, ClearLive, BindAgain, PassNothing>;
 using Steps = std::vector<Step>;
 
 // At random, with a liking for the edges of the engine's rules; the same ones for the same seed everywhere.

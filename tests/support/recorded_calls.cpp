@@ -67,6 +67,9 @@ void RecordedCalls::BindTo(Drawing& drawing)
                              Add_(DrawPenData(samples->size(), brushSize, colour));
                              penData = *samples;
                          });
+    drawing.SetDrawTextCallback([this](int x, int y, unsigned size, unsigned colour, const char*) {
+        Add_({"DrawText", {x, y, size, colour}});
+    });
 }
 
 Calls RecordedCalls::Take() { return std::exchange(calls, {}); }
