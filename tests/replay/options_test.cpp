@@ -229,6 +229,12 @@ TEST(OptionMistakes, SaveBesideAnOptionAboutPlaying)
               "--save plays nothing, so --dll cannot stand beside it");
 }
 
+TEST(OptionMistakes, AreOneLineWhateverTheyQuote)
+{
+    EXPECT_EQ(ErrorOf({"--a\r\nb"}), "unknown option \"--a??b\"");
+    EXPECT_EQ(ErrorOf({"a", "ä\n"}), "only one recording can be played, not \"a\" and \"ä?\"");
+}
+
 TEST(OptionMistakes, OverwriteWithoutSave)
 {
     EXPECT_EQ(ErrorOf({"a", "--overwrite"}), "--overwrite needs --save");

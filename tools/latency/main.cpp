@@ -1,9 +1,8 @@
 // lumora-latency: from a sample's call to its pixel in the memory of the X server, for two hosts in turns.
 #include "latency/mouse_road.h"
+#include "latency/options.h"
 #include "latency/participant.h"
 #include "latency/report.h"
-
-#include <CLI/CLI.hpp>
 
 #include <fstream>
 #include <iomanip>
@@ -13,20 +12,6 @@
 namespace {
 
 using namespace lumora::latency;
-
-struct Options {
-    std::string screen;
-    std::string firstName;
-    std::string secondName;
-    std::string firstExchange;
-    std::string secondExchange;
-    std::string csv;
-    std::uint32_t samples = 120;
-    unsigned runs = 3;
-    bool heads = false;
-    bool byMouse = false;
-    MouseRoad mouse;
-};
 
 void Append(std::vector<double>& all, const std::vector<double>& more)
 {
@@ -84,12 +69,11 @@ void Measure(const Options& options)
 void MeasureByMouse(const Options& options)
 {
     const Framebuffer screen(options.screen);
-    MouseRoad road = options.mouse;
-    road.samples = options.samples;
-    const Distribution times = DistributionOf(MeasureMouse(road, screen));
+    const Distribution times = DistributionOf(MeasureMouse(options.mouse, screen));
     std::cout << std::fixed << std::setprecision(2) << options.firstName << ", mouse, " << screen.Width()
               << " x " << screen.Height() << ": median " << times.median << " ms, 5th percentile " << times.p5
-              << ", 95th " << times.p95 << ", " << times.count << " of " << road.samples << " seen\n";
+              << ", 95th " << times.p95 << ", " << times.count << " of " << options.mouse.samples
+              << " seen\n";
     if (times.count == 0) {
         throw std::runtime_error("no ink was seen");
     }
@@ -104,23 +88,12 @@ void WriteHeads(const Options& options)
 
 int Answer(int argc, char** argv)
 {
-    Options options;
-    CLI::App app("From a sample's call to its pixel in the memory of the X server, for two hosts in turns.");
-    app.add_option("--screen", options.screen, "the file in which Xvfb keeps its screen (-fbdir)");
-    app.add_option("--first", options.firstName, "the name of the first host");
-    app.add_option("--second", options.secondName, "the name of the second one");
-    app.add_option("--first-exchange", options.firstExchange, "its file, which is made here");
-    app.add_option("--second-exchange", options.secondExchange, "the second one's");
-    app.add_option("--csv", options.csv, "appends each time to this file");
-    app.add_option("--samples", options.samples, "of an isolated run; a stream has four times as many")
-        ->check(CLI::Range(1, 1024));
-    app.add_option("--runs", options.runs, "paired runs, each A B B A")->check(CLI::Range(1, 99));
-    app.add_flag("--heads", options.heads, "writes the names of the columns, and measures nothing");
-    app.add_flag("--mouse", options.byMouse, "measures a program that is there, by the display's mouse");
-    app.add_option("--hold", options.mouse.heldKeys,
-                   "keys that are held while it writes (Control_L Shift_L)");
-    app.add_option("--button", options.mouse.button, "a button that is held while it writes");
-    CLI11_PARSE(app, argc, argv);
+    const OptionsReading reading = ReadOptions({argv + 1, argv + argc});
+    if (reading.status) {
+        (*reading.status == 0 ? std::cout : std::cerr) << reading.text;
+        return *reading.status;
+    }
+    const Options& options = reading.options;
     if (options.heads) {
         WriteHeads(options);
     } else if (options.byMouse) {

@@ -303,9 +303,7 @@ std::optional<OptionsError> CheckWhole(const Options& options, const std::string
     return std::nullopt;
 }
 
-} // namespace
-
-std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>& arguments)
+std::variant<Options, OptionsError> ParseAll(const std::vector<std::string>& arguments)
 {
     Options options;
     std::string playing;
@@ -334,6 +332,25 @@ std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>&
     std::stable_sort(options.screenshots.begin(), options.screenshots.end(), earlier);
     std::stable_sort(options.switches.begin(), options.switches.end(), earlier);
     return options;
+}
+
+// What is quoted in a mistake may hold line ends.
+std::string OnOneLine(std::string text)
+{
+    const auto isControl = [](unsigned char character) { return character < ' '; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
+    return text;
+}
+
+} // namespace
+
+std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>& arguments)
+{
+    auto parsed = ParseAll(arguments);
+    if (auto* error = std::get_if<OptionsError>(&parsed)) {
+        error->reason = OnOneLine(std::move(error->reason));
+    }
+    return parsed;
 }
 
 void ApplyInk(const InkChanges& changes, LM_Params& params)

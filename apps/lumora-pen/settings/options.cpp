@@ -7,6 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
 
 namespace lumora_pen {
@@ -182,10 +183,12 @@ OptionsReading Done(std::string text)
     return reading;
 }
 
-OptionsReading Wrong(std::string_view mistake)
+// What the mistake quotes may hold line ends, and it is one line.
+OptionsReading Wrong(std::string mistake)
 {
-    OptionsReading reading =
-        Done("lumora-pen: " + std::string(mistake) + "\nlumora-pen --help tells all options.\n");
+    const auto isControl = [](unsigned char character) { return character < ' '; };
+    std::replace_if(mistake.begin(), mistake.end(), isControl, '?');
+    OptionsReading reading = Done("lumora-pen: " + mistake + "\nlumora-pen --help tells all options.\n");
     reading.isMistake = true;
     return reading;
 }

@@ -156,6 +156,7 @@ INSTANTIATE_TEST_SUITE_P(CommandLines, WrongOptions,
                                          Wrong{{"pen.svc"}, {"\"pen.svc\""}},                     //
                                          Wrong{{"--board", "1"}, {"\"1\""}},                      //
                                          Wrong{{"--", "--board"}, {"is no option"}},              //
+                                         Wrong{{"--colour", "a\r\nä"}, {"\"a??ä\""}},             //
                                          Wrong{{""}, {"\"\""}},                                   //
                                          Wrong{{"--quit", "--board"}, {"--quit", "--board"}},
                                          Wrong{{"--settings", "a", "--quit"}, {"--quit", "--settings"}},
