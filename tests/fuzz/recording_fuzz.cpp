@@ -1,6 +1,8 @@
 // Any bytes as a recording, SVC and InkML: what is read can be played, and saved and read again as the same.
 #include "inkml.h"
+#include "strokes.h"
 #include "svc.h"
+#include "timeline.h"
 
 #include "fuzz/fuzz_target.h"
 
@@ -23,7 +25,7 @@ void Require(bool holds, const char* what)
 
 bool IsIn(double value, double min, double max) { return value >= min && value <= max; }
 
-void RequirePlayable(const std::vector<RecordedSample>& samples)
+void RequireWithinLimits(const std::vector<RecordedSample>& samples)
 {
     double last = 0;
     for (const RecordedSample& sample : samples) {
@@ -33,6 +35,32 @@ void RequirePlayable(const std::vector<RecordedSample>& samples)
         Require(IsIn(sample.time, last, samples.front().time + MaxDurationMs), "time is out of order");
         last = sample.time;
     }
+}
+
+constexpr ScreenSize Screen = {1920, 1080};
+
+// What the library is given: all of it, on the screen, in order of time, and no stroke without an end.
+void RequirePlayable(const Recording& recording, const Placement& placement)
+{
+    Timeline timeline(MakePenSamples(recording, placement), 1);
+    std::size_t played = 0;
+    bool writes = false;
+    double last = 0;
+    while (const auto due = timeline.NextDueMs()) {
+        Require(IsIn(*due, last, MaxDurationMs), "a sample is not due in order of time");
+        last = *due;
+        const auto samples = timeline.TakeDue(*due);
+        Require(!samples.empty(), "nothing is due");
+        for (const LM_PenData& sample : samples) {
+            Require(IsIn(sample.x, 1, Screen.width - 1) && IsIn(sample.y, 1, Screen.height - 1),
+                    "a sample is beside the screen");
+            Require(sample.time != 0 && sample.pressure >= 0, "a sample is a reset, or presses backwards");
+            writes = sample.pressure > 0;
+        }
+        played += samples.size();
+    }
+    Require(!writes, "the last stroke has no end");
+    Require(played >= recording.samples.size(), "a sample is not played");
 }
 
 // Angles are converted on the way, and pressures may be taken for shares: they are left out.
@@ -57,7 +85,9 @@ void Check(const RecordingResult& result)
     if (recording == nullptr) {
         return;
     }
-    RequirePlayable(recording->samples);
+    RequireWithinLimits(recording->samples);
+    RequirePlayable(*recording, Placement(*recording, Screen));
+    RequirePlayable(*recording, Placement::OfPixels(recording->yUpwards, Screen));
     std::stringstream inkml;
     WriteInkml(*recording, inkml);
     RequireSame(*recording, ReadInkml(inkml), "another recording after InkML");
@@ -74,10 +104,15 @@ void Check(const RecordingResult& result)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    using namespace lumora::replay;
     const std::string text(reinterpret_cast<const char*>(data), size);
-    std::istringstream svc(text);
-    lumora::replay::Check(lumora::replay::ReadSvc(svc));
-    std::istringstream inkml(text);
-    lumora::replay::Check(lumora::replay::ReadInkml(inkml));
+    // With the unit of time that the file says or suggests, and with one that somebody has told.
+    const auto told = static_cast<TimeUnit>(size % 3);
+    for (const std::optional<TimeUnit> unit : {std::optional<TimeUnit>(), std::optional(told)}) {
+        std::istringstream svc(text);
+        Check(ReadSvc(svc, unit));
+        std::istringstream inkml(text);
+        Check(ReadInkml(inkml, unit));
+    }
     return 0;
 }
