@@ -22,7 +22,8 @@ std::string Shown(const Json& value)
         while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
             --end;
         }
-        text = text.substr(0, end) + "...";
+        text.resize(end);
+        text += "...";
     }
     return text;
 }
