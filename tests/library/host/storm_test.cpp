@@ -198,10 +198,12 @@ void Storm::Command()
 
 void Storm::MoveMouse()
 {
-    SetCursorPos(Random(1024), Random(768));
-    constexpr DWORD Buttons[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
-    if (OneIn(3)) {
-        mouse_event(Buttons[Random(2)], 0, 0, 0, 0);
+    const POINT point = {Random(1024), Random(768)};
+    SetCursorPos(point.x, point.y);
+    const LPARAM place = MAKELPARAM(point.x, point.y);
+    if (OneIn(3) && SendMessageW(WindowFromPoint(point), WM_NCHITTEST, 0, place) == HTCLIENT) {
+        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0); // a frame held by the mouse would wait for a person
+        mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
     }
 }
 
