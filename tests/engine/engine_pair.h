@@ -3,11 +3,8 @@
 #pragma once
 
 #include "engine/reference_engine.h"
-#include "engine/steps.h"
-#include "ink/drawing.h"
-#include "support/fake_clock.h"
+#include "engine/walked_engine.h"
 #include "support/log_level.h"
-#include "support/recorded_calls.h"
 #include "support/recorded_log.h"
 
 #include <array>
@@ -68,12 +65,7 @@ void Compare(std::string& differences, const char* what, const Value& engine, co
 
 class EnginePair {
 public:
-    EnginePair()
-    {
-        SetClock(100'000);
-        reference.screenColour = calls.screenColour;
-        calls.BindTo(drawing);
-    }
+    EnginePair() { reference.screenColour = engine.calls.screenColour; }
 
     // What differs after this step, or nothing.
     std::string Take(const Step& step)
@@ -81,13 +73,16 @@ public:
         const RecordedLog log;
         reference.calls.clear();
         reference.lines.clear();
+        engine.Take(step);
         std::visit([this](const auto& its) { Do(its); }, step);
+        Drawing& drawing = engine.drawing;
         std::string differences;
-        Compare(differences, "calls", calls.Take(), reference.calls);
-        Compare(differences, "samples handed over", Words(calls.penData), Words(reference.penData));
+        Compare(differences, "calls", engine.calls.Take(), reference.calls);
+        Compare(differences, "samples handed over", Words(engine.calls.penData), Words(reference.penData));
         Compare(differences, "count", drawing.LivePointsNum(), reference.LivePointsNum());
         Compare(differences, "rate", drawing.PenReoprtRate(), reference.PenReoprtRate());
-        Compare(differences, "options", drawing.EnabledOptions(mask), reference.EnabledOptions(mask));
+        Compare(differences, "options", drawing.EnabledOptions(engine.mask),
+                reference.EnabledOptions(engine.mask));
         Params params{};
         drawing.GetCopiedParams(&params);
         Compare(differences, "record", WordsOf(params), WordsOf(reference.params));
@@ -118,72 +113,23 @@ private:
         return texts;
     }
 
-    void Do(const AddSamples& step)
-    {
-        const PenData none{};
-        const PenData* const first = step.samples.empty() ? &none : step.samples.data();
-        drawing.AddPenDataAry(first, step.samples.size());
-        reference.AddPenDataAry(first, step.samples.size());
-    }
-    void Do(const DrawFrame&)
-    {
-        drawing.DrawLumoraLines();
-        reference.DrawLumoraLines();
-    }
-    void Do(const Tick&)
-    {
-        drawing.DeleteOldPenData();
-        reference.DeleteOldPenData();
-    }
-    void Do(const MoveClockBy& step) { AdvanceClock(step.milliseconds); }
-    void Do(const UseRecord& step)
-    {
-        drawing.SetParams(&step.params);
-        reference.params = step.params;
-    }
-    void Do(const UseScale& step)
-    {
-        drawing.SetScale(step.factor);
-        reference.SetScale(step.factor);
-    }
-    void Do(const UseVectorOutline& step)
-    {
-        drawing.SetVectorOutline(step.on);
-        reference.vectorOutline = step.on;
-    }
+    // Of the reference; what is not named here goes to the engine, the clock and the log, once for both.
+    template <class Other> void Do(const Other&) {}
+    void Do(const AddSamples& step) { reference.AddPenDataAry(step.samples.data(), step.samples.size()); }
+    void Do(const DrawFrame&) { reference.DrawLumoraLines(); }
+    void Do(const Tick&) { reference.DeleteOldPenData(); }
+    void Do(const UseRecord& step) { reference.params = step.params; }
+    void Do(const UseScale& step) { reference.SetScale(step.factor); }
+    void Do(const UseVectorOutline& step) { reference.vectorOutline = step.on; }
     void Do(const UseScreen& step)
     {
-        calls.screenColour = reference.screenColour = step.colour;
+        reference.screenColour = step.colour;
         reference.pickingSetsTheRecord = step.pickingSetsTheRecord;
-        calls.whenPicked = [this, step](bool clearFlag) {
-            if (step.pickingSetsTheRecord) {
-                Params params{};
-                drawing.GetCopiedParams(&params);
-                params.inkColor = step.colour;
-                params.colorPicker = clearFlag ? 0 : params.colorPicker;
-                drawing.SetParams(&params);
-            }
-        };
     }
-    void Do(const UseLogLevel& step) { SetDebugLevel(step.level); }
-    void Do(const AskOptions& step) { mask = step.mask; }
-    void Do(const ClearLive&)
-    {
-        drawing.ClearLivePenData();
-        reference.ClearLivePenData();
-    }
-    void Do(const BindAgain&) { calls.BindTo(drawing); }
-    void Do(const PassNothing&)
-    {
-        drawing.SetParams(nullptr);
-        drawing.GetCopiedParams(nullptr);
-        drawing.AddPenDataAry(nullptr, 1);
-    }
+    void Do(const ClearLive&) { reference.ClearLivePenData(); }
 
-    RecordedCalls calls;
-    Drawing drawing;
+    WalkedEngine engine;
     ReferenceEngine reference;
-    std::uint32_t mask = 0xFFFFFFFF;
 };
 
 // What differs after the first step that shows a difference, or nothing. `seen` is told of each step before.

@@ -6,8 +6,6 @@
 #include "support/distinct_params.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
 
 namespace zq::LM {
@@ -18,14 +16,6 @@ using test::Same;
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-void Require(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "brush data: %s\n", what);
-        std::abort();
-    }
-}
 
 // What no message of the kind may change is put back; then nothing may differ.
 void RequireOnlyTheKindsChanges(BrushDataKind kind, Params params)

@@ -11,20 +11,10 @@
 #include "fuzz/fuzz_target.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 
 namespace {
 
 using Arguments = std::vector<std::string>;
-
-void Require(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "options: %s\n", what);
-        std::abort();
-    }
-}
 
 bool IsOneLine(std::string_view text) { return !text.empty() && text.find('\n') == std::string_view::npos; }
 

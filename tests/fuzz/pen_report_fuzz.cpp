@@ -4,20 +4,9 @@
 #include "fuzz/byte_reader.h"
 #include "fuzz/fuzz_target.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace lumora_pen {
 
 namespace {
-
-void Require(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "pen report: %s\n", what);
-        std::abort();
-    }
-}
 
 using zq::LM::test::ByteReader;
 

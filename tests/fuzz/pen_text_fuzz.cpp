@@ -4,20 +4,9 @@
 
 #include "fuzz/fuzz_target.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace lumora_pen {
 
 namespace {
-
-void Require(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "pen texts: %s\n", what);
-        std::abort();
-    }
-}
 
 void RequireInRange(const Settings& settings)
 {

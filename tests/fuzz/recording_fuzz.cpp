@@ -7,21 +7,11 @@
 #include "fuzz/fuzz_target.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <sstream>
 
 namespace lumora::replay {
 
 namespace {
-
-void Require(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "recording: %s\n", what);
-        std::abort();
-    }
-}
 
 bool IsIn(double value, double min, double max) { return value >= min && value <= max; }
 

@@ -1,6 +1,7 @@
 // Parses the command line of lumora-replay.
 #include "options.h"
 #include "save_recording.h"
+#include "text/one_line.h"
 
 #include <algorithm>
 #include <array>
@@ -334,21 +335,13 @@ std::variant<Options, OptionsError> ParseAll(const std::vector<std::string>& arg
     return options;
 }
 
-// What is quoted in a mistake may hold line ends.
-std::string OnOneLine(std::string text)
-{
-    const auto isControl = [](unsigned char character) { return character < ' '; };
-    std::replace_if(text.begin(), text.end(), isControl, '?');
-    return text;
-}
-
 } // namespace
 
 std::variant<Options, OptionsError> ParseOptions(const std::vector<std::string>& arguments)
 {
     auto parsed = ParseAll(arguments);
-    if (auto* error = std::get_if<OptionsError>(&parsed)) {
-        error->reason = OnOneLine(std::move(error->reason));
+    if (auto* error = std::get_if<OptionsError>(&parsed)) { // quotes what it was given
+        error->reason = text::OnOneLine(std::move(error->reason));
     }
     return parsed;
 }

@@ -4,10 +4,10 @@
 #include "settings/help.h"
 #include "settings/words.h"
 #include "text/file_name.h"
+#include "text/one_line.h"
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <charconv>
 
 namespace lumora_pen {
@@ -183,12 +183,10 @@ OptionsReading Done(std::string text)
     return reading;
 }
 
-// What the mistake quotes may hold line ends, and it is one line.
-OptionsReading Wrong(std::string mistake)
+OptionsReading Wrong(const std::string& mistake)
 {
-    const auto isControl = [](unsigned char character) { return character < ' '; };
-    std::replace_if(mistake.begin(), mistake.end(), isControl, '?');
-    OptionsReading reading = Done("lumora-pen: " + mistake + "\nlumora-pen --help tells all options.\n");
+    OptionsReading reading =
+        Done("lumora-pen: " + lumora::text::OnOneLine(mistake) + "\nlumora-pen --help tells all options.\n");
     reading.isMistake = true;
     return reading;
 }

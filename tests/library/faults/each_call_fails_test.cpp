@@ -1,6 +1,7 @@
 // Each call that the library makes fails once, in each piece of an instance's life: the first call of a
 // function, the second, and so on until there is none left to fail; once only, and from then on.
 #include "library/faults/fault_scenarios.h"
+#include "library/faults/fault_test.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -41,7 +42,7 @@ std::string NameOfScenario(const testing::TestParamInfo<FaultScenario>& info) { 
 
 } // namespace
 
-class EachCallFails : public FaultHost, public testing::WithParamInterface<FaultScenario> {
+class EachCallFails : public FaultTest, public testing::WithParamInterface<FaultScenario> {
 protected:
     static std::vector<std::string> Some(std::vector<std::string> called)
     {

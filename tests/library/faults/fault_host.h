@@ -1,41 +1,18 @@
-// A host whose library meets failing calls, and what must hold whichever of them fails.
+// A host that does what hosts do, whichever of its library's calls to the system fail meanwhile.
 #pragma once
 
 #include "library/host/working_overlay.h"
-#include "support/fakes/memory.h"
-#include "support/hook/every_import.h"
 #include "support/hook/hooks.h"
 #include "support/library/back_end_test.h"
 
 #include <functional>
-#include <optional>
-#include <set>
-#include <string>
-#include <vector>
 
 namespace zq::LM::test {
 
-struct FaultScenario;
-
-// A function or a method, by the name under which it is recorded, that fails from its nth call on.
-struct Fault {
-    std::string name;
-    unsigned nth = 1;
-    unsigned times = 1;
-};
-
-struct LeftObjects {
-    std::size_t gdiObjects;
-    std::size_t kernelHandles;
-    std::size_t windows;
-    std::size_t memoryBlocks;
-    bool operator==(const LeftObjects&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const LeftObjects& left);
-
+// What scenarios are made of. An export may raise std::bad_alloc where something has failed, and nothing
+// else.
 class FaultHost : public WorkingOverlayTest {
 public:
-    // What scenarios are made of. An export may raise std::bad_alloc and nothing else.
     void Create();
     void Destroy();
     void Write(); // a batch of samples and its frame
@@ -59,37 +36,14 @@ public:
 
 protected:
     FaultHost();
-    ~FaultHost() override;
 
-    // Lives through the scenario, these faults among it; whether any of them came to pass. Checks everything
-    // that has to hold then and afterwards.
-    bool Live(const FaultScenario& scenario, const std::vector<Fault>& faults);
-
-    // What the scenario calls when nothing fails, and what stays behind then.
-    std::vector<std::string> LearnHealthy(const FaultScenario& scenario);
-
-private:
-    bool LiveOnce_(const FaultScenario& scenario, const std::vector<Fault>& faults);
-    void LiveHealthy_(const FaultScenario& scenario);
-    void Inject_(const std::vector<Fault>& faults);
-    bool FailNoMore_();
-    void Start_(const FaultScenario& scenario);
-    void ExpectUsable_();
-    void ExpectNoSheet_(const FaultScenario& scenario) const;
-    void ExpectKnownLines_() const;
-    void ExpectGraphicsBalanced_() const;
-    void BeHealthyAgain_();
-    void RaiseTheFirstExceptions_();
-    void WithoutDevices_(const std::function<void()>& work);
-    LeftObjects Count_();
-    void Try_(const std::function<void()>& call);
+    // Whether any call has failed since the scenario began.
+    virtual bool HasFailed() const = 0;
 
     Hooks calls{library.Module()};
-    std::optional<MemoryStandIn> memory;
-    std::optional<CompositionStandIn> graphics;
-    std::optional<EveryImport> imports;
-    std::optional<LeftObjects> healthy;
-    std::set<std::string> healthyLines;
+
+private:
+    void Try_(const std::function<void()>& call);
 };
 
 } // namespace zq::LM::test

@@ -82,6 +82,10 @@ protected:
 private:
     int Random(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
     bool OneIn(int count) { return Random(count) == 0; }
+    // Most ink goes, and most is narrow: each line as wide as the screen takes the system a tenth of a
+    // second.
+    int Life() { return OneIn(20) ? static_cast<int>(random()) : Random(1000); }
+    unsigned Width() { return OneIn(20) ? random() : static_cast<unsigned>(Random(60)); }
     template <typename Record> Record RandomBytes()
     {
         Record record;
@@ -122,9 +126,11 @@ void Storm::Write()
 void Storm::Use()
 {
     LM_Params record = OneIn(3) ? RandomBytes<LM_Params>() : Params();
-    record.inkDecayTime = OneIn(2) ? record.inkDecayTime : 200;
-    lumora::BrushDataMessage message =
-        OneIn(2) ? lumora::MakeBrushParams(random(), random(), random()) : lumora::MakeInkDecayTime(random());
+    record.inkDecayTime = Life();
+    record.minBrushSize = static_cast<int>(Width());
+    record.brushSize = static_cast<int>(Width());
+    lumora::BrushDataMessage message = OneIn(2) ? lumora::MakeBrushParams(random(), Width(), Width())
+                                                : lumora::MakeInkDecayTime(std::uint32_t(Life()));
     constexpr std::uint32_t Levels[] = {0, 0, 0, 1, 2, 3, 4, 255, 256};
     switch (Random(4)) {
     case 0:
@@ -211,7 +217,7 @@ void Storm::UseDialog()
 {
     constexpr int Edits[] = {EditBrushSize, EditInkLife, EditRgb, EditHsv, EditFramesPerSecond};
     constexpr const char* Texts[] = {"", "-1", "7", "99999999999", "1,2,3", "300,300,300", "x"};
-    for (HWND dialog : WindowsOfClass(L"#32770")) {
+    for (HWND dialog : SettingsDialogs()) {
         const int number = GroupRendering + Random(EditFramesPerSecond - GroupRendering + 1);
         switch (Random(6)) {
         case 0:

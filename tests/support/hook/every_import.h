@@ -2,6 +2,7 @@
 // ones fail. For x64 alone.
 #pragma once
 
+#include "support/hook/import_failure.h"
 #include "support/hook/nth_call.h"
 
 #include <windows.h>
@@ -14,16 +15,6 @@
 #include <vector>
 
 namespace zq::LM::test {
-
-// Which answer tells a caller that an imported function has failed.
-struct ImportFailure {
-    std::intptr_t answer = 0;
-    bool isPerformed =
-        false; // what gives something back has done so all the same, or every failure would leak
-};
-
-// Nothing for a function that cannot fail. `dll` as the import table has it, with its ending.
-std::optional<ImportFailure> FailureOf(const std::string& dll, const std::string& function);
 
 // While it lives. Hooks of the same functions that are there before work on below; none may be made
 // meanwhile.
