@@ -138,16 +138,22 @@ void Conductor::TakeOptions_(const Options& options)
     }
 }
 
+// Any program of the desktop may name the file, so none is replaced.
 void Conductor::StartRecord_(const std::string& file)
 {
+    const std::filesystem::path path = lumora::text::PathOf(file);
+    std::error_code ignored;
+    if (std::filesystem::exists(path, ignored)) {
+        throw lumora::Error("there is such a file already, and a recording replaces none: " + file);
+    }
+    std::ofstream next(path, std::ios::binary); // now: nobody wants to hear it at the end
+    if (!next.is_open()) {
+        throw lumora::Error("the recording cannot be written to " + file);
+    }
     if (const auto failure = WriteRecord_()) {
         Say_(*failure);
     }
-    recordFile.open(lumora::text::PathOf(file),
-                    std::ios::binary); // now: nobody wants to hear it at the end
-    if (!recordFile.is_open()) {
-        throw lumora::Error("the recording cannot be written to " + file);
-    }
+    recordFile = std::move(next);
     record = {};
 }
 

@@ -23,7 +23,7 @@ Options:
   --board             begin in Board
   --colour COLOUR     1 to 6, one of the six in the settings, or RRGGBB or #RRGGBB, hexadecimal
   --back-end NAME     composition, direct2d or gdi
-  --record FILE       record what you write as FILE, which lumora-replay plays
+  --record FILE       record what you write as FILE, a new one, which lumora-replay plays
   --log-level N       the library's log level, 0 to 255 (default 0)
   --quit              end the Lumora Pen that runs; goes with no other option
   -h, --help          this text

@@ -66,4 +66,13 @@ TEST_F(PenStart, RecordingThatCannotBeWrittenIsToldAtOnceWithStatus1)
     EXPECT_THAT(outcome.error, HasSubstr("the recording cannot be written to"));
 }
 
+TEST_F(PenStart, RecordingReplacesNoFile)
+{
+    Write("mine.svc", "mine");
+    const auto outcome = RunPen(L"--settings pen.json --back-end gdi --record mine.svc");
+    EXPECT_EQ(outcome.status, 1U);
+    EXPECT_THAT(outcome.error, HasSubstr("there is such a file already"));
+    EXPECT_EQ(Content("mine.svc"), "mine");
+}
+
 } // namespace
