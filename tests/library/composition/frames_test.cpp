@@ -106,6 +106,18 @@ TEST_F(FramesTest, ArePresentedAlthoughDrawingFailed)
     EXPECT_EQ(LinesLike("Exception is thrown!\n"), 0U);
 }
 
+TEST_F(FramesTest, AreNotDrawnForAnInstanceThatEndsWhileItsPaintBegins)
+{
+    Hook<"BeginPaint", decltype(BeginPaint)> paints(library.Module());
+    paints.Answer([&](HWND window, PAINTSTRUCT* paint) {
+        const HDC dc = paints.Real(window, paint);
+        library.Destroy(); // as the host may when the system asks its windows to erase themselves
+        return dc;
+    });
+    EXPECT_THAT(Frame(), testing::Not(testing::Contains("DeviceContext#1.BeginDraw()")));
+    EXPECT_EQ(library.GetWindowHandle(), nullptr);
+}
+
 } // namespace
 
 } // namespace zq::LM::test
