@@ -14,7 +14,7 @@ def rows_of(minutes, **changes):
     for number in range(minutes + 1):
         row = dict.fromkeys(judge.EXACT, 7)
         row |= dict.fromkeys(judge.TIMES, 1000 * (1 + noise.random()))
-        row |= {"seconds": 60.0 * number, "private_kb": 60000 + 64 * (number > 20), "direct2d_frames": number % 2,
+        row |= {"seconds": 60.0 * number, "private_kb": 60000 + 64 * (number > 40), "direct2d_frames": number % 2 * (number < 30),
                 "rebuilds": 2, "left_windows": 2, "windows_made": 3 * number, "classes": 3 * number, "looks": 1, "ghosts": 0,
                 "gdi_seen": 1, "direct2d_seen": 1}
         rows.append(row | {name: change(number) for name, change in changes.items()})
@@ -37,13 +37,17 @@ class Judge(unittest.TestCase):
     def test_the_first_interval_may_still_make_objects(self):
         self.assertEqual(self.failures(gdi_objects=lambda number: 6 if number == 0 else 7), [])
 
-    def test_finds_memory_that_grows_without_direct2d(self):
-        found = self.failures(private_kb=lambda number: 60000 + 64 * number)
+    def test_finds_memory_that_grows_after_direct2d(self):
+        found = self.failures(private_kb=lambda number: 60000 + 64 * max(number - 30, 0))
         self.assertEqual(len(found), 1)
         self.assertIn("private_kb", found[0])
 
     def test_memory_that_grows_only_with_direct2d_is_not_the_librarys(self):
-        self.assertEqual(self.failures(private_kb=lambda number: 60000 + 64 * ((number + 1) // 2)), [])
+        self.assertEqual(self.failures(private_kb=lambda number: 60000 + 64 * min(number, 29)), [])
+
+    def test_without_direct2d_all_memory_counts(self):
+        found = self.failures(direct2d_frames=lambda number: 0, private_kb=lambda number: 60000 + 64 * min(number, 29))
+        self.assertEqual(len(found), 1)
 
     def test_finds_frames_that_take_longer_and_longer(self):
         found = self.failures(gdi_p50_us=lambda number: 1000 + 20 * number + 50 * math.sin(number))

@@ -47,7 +47,7 @@ void Soak::Run(double seconds, double secondsARow, std::ostream& csv)
             Play_(RandomScene(random, mayUseDirect2D));
         }
         WriteRow_(Seconds() - begin, csv);
-        mayUseDirect2D = !mayUseDirect2D;
+        mayUseDirect2D = !mayUseDirect2D && due < seconds / 2;
     }
 }
 

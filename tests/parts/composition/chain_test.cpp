@@ -66,6 +66,14 @@ TEST_F(ChainTest, NothingIsDrawnWithoutADeviceContext)
     EXPECT_THAT(composition.Take(), IsEmpty());
 }
 
+TEST_F(ChainTest, FactoryThatIsPromisedButNotGivenFailsTheSetUp)
+{
+    setUps = 0;
+    composition.Answer("CreateDXGIFactory2", S_OK);
+    EXPECT_FALSE(SetUpChain());
+    EXPECT_FALSE(backEnd->Clear());
+}
+
 TEST_F(ChainTest, NoTextIsDrawnWithoutATextFormat)
 {
     composition.Answer("WriteFactory.CreateTextFormat", E_FAIL);
