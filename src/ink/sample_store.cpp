@@ -12,6 +12,21 @@ std::int64_t Difference(std::uint32_t later, std::uint32_t earlier)
     return static_cast<std::int64_t>(later) - static_cast<std::int64_t>(earlier);
 }
 
+// The count as it is in the end, also when memory runs out on the way.
+class CountInTheEnd {
+public:
+    CountInTheEnd(std::int64_t& count, const std::vector<PenData>& samples) : count(count), samples(samples)
+    {
+    }
+    ~CountInTheEnd() { count = static_cast<std::int64_t>(samples.size()); }
+    CountInTheEnd(const CountInTheEnd&) = delete;
+    CountInTheEnd& operator=(const CountInTheEnd&) = delete;
+
+private:
+    std::int64_t& count;
+    const std::vector<PenData>& samples;
+};
+
 bool IsResetMarker(const PenData& sample) { return sample.x == 0 || sample.y == 0 || sample.time == 0; }
 
 } // namespace
@@ -31,6 +46,8 @@ void Drawing::AddPenDataAryCore_(const PenData* samples, std::size_t count)
     }
     LogA(DETAILED, "\tAddPenDataAryCore_ is locked.\n");
     const std::lock_guard lock(samplesMutex);
+    // Until the next frame or tick, readers see how much has come in, not how much is drawn.
+    const CountInTheEnd counted(livePointsNum, pendingSamples);
     for (std::size_t i = 0; i < count; ++i) {
         AddPenData_(samples[i]);
     }
@@ -45,8 +62,6 @@ void Drawing::AddPenData_(const PenData& sample)
         pendingSamples.push_back(sample);
         pendingSamples.back().time = MillisecondClock();
     }
-    // Until the next frame or tick, readers see how much has come in, not how much is drawn.
-    livePointsNum = static_cast<std::int64_t>(pendingSamples.size());
 }
 
 void Drawing::MovePenData_()

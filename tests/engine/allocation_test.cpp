@@ -153,6 +153,23 @@ TEST_F(AllocationTest, AddingWithoutMemoryRaisesAndLeavesTheEngineUsable)
     EXPECT_EQ(drawing.LivePointsNum(), 3);
 }
 
+TEST_F(AllocationTest, AddingThatRunsOutOfMemoryCountsWhatHasComeIn)
+{
+    const std::vector<PenData> some(4, batch.front());
+    const std::vector<PenData> more(1000, batch.front());
+    const PenData marker{};
+    drawing.AddPenDataAry(some.data(), some.size());
+    drawing.AddPenDataAry(&marker, 1);
+    {
+        const NoMemory noMemory;
+        EXPECT_THROW(drawing.AddPenDataAry(more.data(), more.size()), std::bad_alloc);
+    }
+    const std::int64_t count = drawing.LivePointsNum();
+    EXPECT_GE(count, 4);
+    drawing.DrawLumoraLines();
+    EXPECT_EQ(drawing.LivePointsNum(), count);
+}
+
 TEST_F(AllocationTest, FrameWithoutMemoryRaisesAndKeepsThePendingSamples)
 {
     drawing.AddPenDataAry(batch.data(), batch.size());
