@@ -108,6 +108,22 @@ TEST_F(ChainTest, FailedSetUpMayBeTriedAgain)
     EXPECT_TRUE(backEnd->Present());
 }
 
+TEST_F(ChainTest, SecondSetUpDrawsWithABrushOfItsOwnContext)
+{
+    constexpr unsigned Colour = 0xFF123456;
+    SetUpChain();
+    setUps = 3;
+    for (int i = 0; i < 2; ++i) {
+        backEnd->InitTransparentWindow(window, 0);
+        TakeNames();
+        backEnd->Clear();
+        backEnd->DrawLine(1, 2, 3, Colour, 4, 5, 6, Colour);
+        backEnd->Present();
+        const std::string context = "DeviceContext#" + std::to_string(i + 2);
+        EXPECT_THAT(TakeNames(), testing::Contains(context + ".CreateSolidColorBrush"));
+    }
+}
+
 TEST_F(ChainTest, SecondSetUpReleasesEachMemberBeforeItIsMadeAnew)
 {
     SetUpChain();
