@@ -4,6 +4,7 @@
 #include "lumora/params.hpp"
 
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 namespace pen_host {

@@ -17,6 +17,7 @@
 #include "lumora/library.hpp"
 #include "lumora/params.hpp"
 
+#include <cstdint>
 #include <initializer_list>
 #include <optional>
 #include <utility>

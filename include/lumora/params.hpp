@@ -6,6 +6,7 @@
 #include "lumora/records.h"
 
 #include <chrono>
+#include <cstdint>
 #include <limits>
 
 namespace lumora {

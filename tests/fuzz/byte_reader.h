@@ -1,6 +1,7 @@
 // Takes values from a fuzzer's bytes; all are 0 once these have ended.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -28,10 +29,11 @@ public:
     template <class Value> Value Raw()
     {
         static_assert(std::is_trivially_copyable_v<Value>);
-        std::array<std::uint8_t, sizeof(Value)> bytes;
-        for (std::uint8_t& byte : bytes) {
-            byte = Byte();
-        }
+        std::array<std::uint8_t, sizeof(Value)> bytes{};
+        const std::size_t taken = std::min(left, bytes.size());
+        std::copy_n(next, taken, bytes.begin());
+        next += taken;
+        left -= taken;
         Value value;
         std::memcpy(&value, bytes.data(), bytes.size());
         return value;

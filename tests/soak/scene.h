@@ -4,6 +4,8 @@
 #include "soak/host.h"
 #include "soak/random.h"
 
+#include <cstdint>
+
 namespace zq::LM::soak {
 
 struct Scene {

@@ -6,6 +6,7 @@
 #include "soak/scene.h"
 
 #include <array>
+#include <cstdint>
 #include <ostream>
 #include <vector>
 

@@ -4,6 +4,7 @@
 
 #include "latency/exchange.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <vector>
 

@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <span>

@@ -4,6 +4,7 @@
 #include "latency/exchange.h"
 #include "latency/framebuffer.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>

@@ -4,6 +4,7 @@
 #include "latency/exchange.h"
 #include "latency/pairs.h"
 
+#include <cstdint>
 #include <iosfwd>
 #include <string>
 #include <vector>

@@ -6,6 +6,7 @@
 
 #include "lumora/library.hpp"
 
+#include <cstdint>
 #include <span>
 
 namespace lumora::replay {

@@ -4,6 +4,7 @@
 #include "recording.h"
 #include "time_unit.h"
 
+#include <cstddef>
 #include <iosfwd>
 #include <optional>
 

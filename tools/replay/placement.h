@@ -3,6 +3,8 @@
 
 #include "recording.h"
 
+#include <cstdint>
+
 namespace lumora::replay {
 
 struct ScreenSize {

@@ -4,6 +4,7 @@
 
 #include "input/input.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace lumora_pen {

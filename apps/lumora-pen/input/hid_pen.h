@@ -10,6 +10,7 @@ extern "C" { // the header does not say so by itself
 }
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>

@@ -5,6 +5,7 @@
 #include "input/pen_mapping.h"
 #include "input/raw_message.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 

@@ -6,6 +6,7 @@
 #include "input/raw_mouse.h"
 #include "input/raw_registration.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>

@@ -6,6 +6,8 @@
 #include "ink/stroke_feed.h"
 #include "input/raw_mouse.h"
 
+#include <cstdint>
+
 namespace lumora_pen {
 
 class BoardInk {

@@ -14,6 +14,7 @@
 #include "program/settings_store.h"
 #include "settings/options.h"
 
+#include <cstdint>
 #include <fstream>
 
 namespace lumora_pen {

@@ -6,6 +6,7 @@
 
 #include "lumora/lumora.hpp"
 
+#include <cstdint>
 #include <optional>
 
 namespace lumora_pen {

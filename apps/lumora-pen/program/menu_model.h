@@ -3,6 +3,7 @@
 
 #include "ink/needs.h"
 
+#include <cstddef>
 #include <optional>
 
 namespace lumora_pen {

@@ -5,6 +5,7 @@
 
 #include "recording.h"
 
+#include <cstdint>
 #include <iosfwd>
 
 namespace lumora_pen {

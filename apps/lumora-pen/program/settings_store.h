@@ -4,6 +4,8 @@
 
 #include "settings/settings_file.h"
 
+#include <cstdint>
+
 namespace lumora_pen {
 
 class SettingsStore {

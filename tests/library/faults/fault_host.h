@@ -5,6 +5,7 @@
 #include "support/hook/hooks.h"
 #include "support/library/back_end_test.h"
 
+#include <cstdint>
 #include <functional>
 
 namespace zq::LM::test {

@@ -6,6 +6,7 @@
 
 #include <shellapi.h>
 
+#include <cstdint>
 #include <functional>
 
 namespace zq::LM::test {

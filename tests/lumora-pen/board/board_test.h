@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <utility>

@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <array>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <utility>

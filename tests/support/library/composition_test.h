@@ -5,6 +5,7 @@
 #include "support/composition/composition_stand_in.h"
 #include "support/library/overlay_test.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
