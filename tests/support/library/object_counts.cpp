@@ -1,10 +1,7 @@
 // Counts what this process holds of the system's objects.
 #include "support/library/object_counts.h"
 
-#include <winternl.h>
-
 #include <cstdint>
-#include <stdexcept>
 
 namespace zq::LM::test {
 
@@ -41,39 +38,20 @@ std::size_t CountGdiTable()
     return count;
 }
 
-struct SystemHandle {
-    ULONG ownerProcess;
-    BYTE objectType;
-    BYTE flags;
-    USHORT value;
-    PVOID object;
-    ULONG access;
-};
-
-struct SystemHandles {
-    ULONG count;
-    SystemHandle handles[1];
-};
-
-std::size_t CountSystemHandles()
+// Each value is asked for, until so many in a row mean nothing that none can follow: the lowest free one is
+// given out first. Wine's server ends when it is asked for the list of all while some other process has not a
+// single one yet.
+std::size_t CountHandlesByValue()
 {
-    constexpr auto HandleInformation = static_cast<SYSTEM_INFORMATION_CLASS>(16);
-    constexpr NTSTATUS TooShort = static_cast<NTSTATUS>(0xC0000004);
-    const auto query = LowestLibrary<decltype(NtQuerySystemInformation)>("NtQuerySystemInformation");
-    std::vector<char> buffer(1 << 16);
-    ULONG needed = 0;
-    NTSTATUS status = TooShort;
-    while ((status = query(HandleInformation, buffer.data(), static_cast<ULONG>(buffer.size()), &needed)) ==
-           TooShort) {
-        buffer.resize(buffer.size() * 2);
-    }
-    if (status != 0) {
-        throw std::runtime_error("the system's handles cannot be listed");
-    }
-    const auto* list = reinterpret_cast<const SystemHandles*>(buffer.data());
+    constexpr std::uintptr_t Step = 4;
+    constexpr std::size_t NoneFollow = 512;
     std::size_t count = 0;
-    for (ULONG i = 0; i < list->count; ++i) {
-        count += list->handles[i].ownerProcess == GetCurrentProcessId() ? 1 : 0;
+    std::size_t freeInARow = 0;
+    for (std::uintptr_t value = Step; freeInARow < NoneFollow; value += Step) {
+        DWORD flags = 0;
+        const bool open = GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) != 0;
+        count += open ? 1 : 0;
+        freeInARow = open ? 0 : freeInARow + 1;
     }
     return count;
 }
@@ -154,7 +132,7 @@ std::size_t KernelHandles()
 {
     DWORD counted = 0;
     GetProcessHandleCount(GetCurrentProcess(), &counted);
-    return counted != 0 ? counted : CountSystemHandles();
+    return counted != 0 ? counted : CountHandlesByValue();
 }
 
 std::vector<HWND> WindowsOfClass(const std::wstring& prefix)
