@@ -6,12 +6,10 @@
 namespace zq::LM::bench {
 namespace {
 
-void Take(std::vector<PenData>*, unsigned, unsigned) {}
-
 void Bind(Drawing& engine, const Params& params)
 {
     engine.SetCallbacks(
-        TakeCall, TakeCall, [](bool) { return 0U; }, TakeLine, TakeLine, Take);
+        TakeCall, TakeCall, [](bool) { return 0U; }, TakeLine, TakeLine, TakeBatch);
     engine.SetParams(&params);
 }
 

@@ -5,8 +5,6 @@ namespace zq::LM::bench {
 
 namespace {
 
-constexpr COLORREF Key = 0x00FF00FF;
-
 class Direct2D final : public BareBackEnd {
 public:
     void Bind(HWND window) override

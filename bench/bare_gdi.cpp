@@ -10,7 +10,6 @@ namespace {
 
 namespace flat = Gdiplus::DllExports;
 
-constexpr COLORREF Key = 0x00FF00FF;
 constexpr Gdiplus::ARGB LineColour = 0xFF000000 | Ink::Grey << 16 | Ink::Grey << 8 | Ink::Grey;
 
 class Gdi final : public BareBackEnd {

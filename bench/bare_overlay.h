@@ -8,6 +8,8 @@
 
 namespace zq::LM::bench {
 
+constexpr COLORREF Key = 0x00FF00FF; // the colour that is let through
+
 // What is drawn, in one width and one colour.
 struct Ink {
     static constexpr int Width = 6;

@@ -20,6 +20,8 @@ inline void TakeLine(int x1, int y1, int w1, unsigned c1, int x2, int y2, int w2
 
 inline void TakeCall() { benchmark::ClobberMemory(); }
 
+inline void TakeBatch(std::vector<PenData>*, unsigned, unsigned) {}
+
 // A wave across the screen, as a pen draws it.
 inline std::vector<PenData> Wave(std::int64_t count)
 {

@@ -8,15 +8,13 @@
 namespace zq::LM::bench {
 namespace {
 
-void Take(std::vector<PenData>*, unsigned, unsigned) {}
-
 // The clock stands still: no sample ages.
 void FrameOfTheLibrary(benchmark::State& state, Params (*record)())
 {
     test::SetClock(1000);
     Drawing engine;
     engine.SetCallbacks(
-        TakeCall, TakeCall, [](bool) { return 0U; }, TakeLine, TakeLine, Take);
+        TakeCall, TakeCall, [](bool) { return 0U; }, TakeLine, TakeLine, TakeBatch);
     const Params params = record();
     engine.SetParams(&params);
     const std::vector<PenData> samples = Wave(state.range(0));

@@ -6,7 +6,9 @@
 
 #include <chrono>
 #include <optional>
+#include <string>
 #include <thread>
+#include <vector>
 
 namespace lumora::latency {
 
@@ -23,9 +25,16 @@ constexpr milliseconds BetweenEvents(60);
 constexpr milliseconds ForKeysToBeSeen(300);
 constexpr milliseconds ForInkToGo(1600);
 
+// Every key is known before one is pressed: none stays down for want of another.
 class Hold {
 public:
-    Hold(XMouse& mouse, const MouseRoad& road) : mouse(mouse), road(road) { Set_(true); }
+    Hold(XMouse& mouse, const MouseRoad& road) : mouse(mouse), button(road.button)
+    {
+        for (const std::string& key : road.heldKeys) {
+            keys.push_back(mouse.CodeOf(key));
+        }
+        Set_(true);
+    }
     ~Hold() { Set_(false); }
     Hold(const Hold&) = delete;
     Hold& operator=(const Hold&) = delete;
@@ -33,16 +42,17 @@ public:
 private:
     void Set_(bool down)
     {
-        for (const std::string& key : road.heldKeys) {
+        for (const KeyCode key : keys) {
             mouse.Key(key, down);
         }
-        if (road.button != 0) {
-            mouse.Button(road.button, down);
+        if (button != 0) {
+            mouse.Button(button, down);
         }
     }
 
     XMouse& mouse;
-    const MouseRoad& road;
+    std::vector<KeyCode> keys;
+    unsigned button;
 };
 
 std::optional<double> MeasureStep(XMouse& mouse, const Framebuffer& screen, std::int32_t x, std::int32_t y)

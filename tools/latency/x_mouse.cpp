@@ -29,12 +29,17 @@ void XMouse::Button(unsigned number, bool down)
     XFlush(display);
 }
 
-void XMouse::Key(const std::string& name, bool down)
+KeyCode XMouse::CodeOf(const std::string& key) const
 {
-    const KeyCode code = XKeysymToKeycode(display, XStringToKeysym(name.c_str()));
+    const KeyCode code = XKeysymToKeycode(display, XStringToKeysym(key.c_str()));
     if (code == 0) {
-        throw std::runtime_error("the display has no key " + name);
+        throw std::runtime_error("the display has no key " + key);
     }
+    return code;
+}
+
+void XMouse::Key(KeyCode code, bool down)
+{
     XTestFakeKeyEvent(display, code, down ? True : False, CurrentTime);
     XFlush(display);
 }

@@ -20,8 +20,9 @@ public:
     void Move(std::int32_t x, std::int32_t y);
     void Button(unsigned number, bool down);
 
-    // By the X server's names, as "Control_L". Throws std::runtime_error where the display has no such key.
-    void Key(const std::string& name, bool down);
+    // By the X server's name, as "Control_L". Throws std::runtime_error where the display has no such key.
+    KeyCode CodeOf(const std::string& key) const;
+    void Key(KeyCode code, bool down);
 
 private:
     Display* display;
