@@ -27,6 +27,7 @@ constexpr int RowHeight = 20;
 constexpr std::chrono::milliseconds InkLife{1500};
 constexpr auto FullTouch = static_cast<std::int32_t>(FullPressure);
 constexpr double LongestWaitMs = 1000; // for one stroke, most of it a first frame's
+constexpr double SettleMs = 30;        // Wine 10 shows the shape of a layered window before its colours
 constexpr double NoticeMs = 500;       // the overlay notices the end of its ink by a timer
 
 double NowMs()
@@ -141,11 +142,11 @@ void Stroke(Overlay& overlay, POINT middle, BackEndFindings& findings, std::vect
             isPainted = true;
             paintMs.push_back(NowMs() - begin);
         }
-        const COLORREF colour = ColourAt(middle);
-        if (colour != Below) {
+        if (ColourAt(middle) != Below) {
             screenMs.push_back(NowMs() - begin);
             ++findings.strokesSeen;
-            findings.colour = TextOf(colour);
+            PumpFor(SettleMs);
+            findings.colour = TextOf(ColourAt(middle));
             return;
         }
     }
