@@ -26,6 +26,22 @@ window_named() {
     return 1
 }
 
+# The window of all icons, in the corner; under Wine 10 it has no name. Larger is the desktop, elsewhere what an icon says.
+icons_window() {
+    local found X=0 Y=0 HEIGHT=0
+    for _ in {1..300}; do
+        for found in $(xdotool search --onlyvisible --class '^explorer.exe$' 2>/dev/null); do
+            eval "$(xdotool getwindowgeometry --shell "$found" 2>/dev/null)"
+            if [ "$X,$Y" = 0,0 ] && [ "$HEIGHT" -lt 100 ]; then
+                echo "$found"
+                return 0
+            fi
+        done
+        sleep 0.2
+    done
+    return 1
+}
+
 no_window_named() {
     for _ in {1..300}; do
         if [ -z "$(xdotool search --onlyvisible --name "$1" 2>/dev/null)" ]; then return 0; fi
