@@ -57,8 +57,7 @@ TEST_F(CoreBrushData, HasNoServerUnlessItIsWanted)
     EXPECT_EQ(calls.Take(), Lines{});
 }
 
-// At the library's own port, which is one for the machine: these run one at a time, as all that use the
-// screen.
+// At the library's own port, which is one for the machine: these run one at a time.
 class CoreBrushDataServer : public CoreBrushData {
 protected:
     CoreBrushDataServer() { makers.useBrushDataServer = true; }
