@@ -28,11 +28,12 @@ window_named() {
 
 # The window of all icons, in the corner; under Wine 10 it has no name. Larger is the desktop, elsewhere what an icon says.
 icons_window() {
-    local found X=0 Y=0 HEIGHT=0
+    local found X=0 Y=0 HEIGHT
     for _ in {1..300}; do
         for found in $(xdotool search --onlyvisible --class '^explorer.exe$' 2>/dev/null); do
+            HEIGHT=0 # and stays so for a window that has gone meanwhile
             eval "$(xdotool getwindowgeometry --shell "$found" 2>/dev/null)"
-            if [ "$X,$Y" = 0,0 ] && [ "$HEIGHT" -lt 100 ]; then
+            if [ "$X,$Y" = 0,0 ] && [ "$HEIGHT" -gt 0 ] && [ "$HEIGHT" -lt 100 ]; then
                 echo "$found"
                 return 0
             fi
