@@ -65,6 +65,7 @@ private:
     std::optional<EveryImport> imports;
     std::optional<LeftObjects> healthy;
     std::set<std::string> healthyLines;
+    unsigned lives = 0;
 };
 
 } // namespace zq::LM::test

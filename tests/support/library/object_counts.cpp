@@ -112,6 +112,20 @@ BOOL CALLBACK OnWindow(HWND window, LPARAM parameter)
     return TRUE;
 }
 
+std::wstring NameOfOverlayClass(unsigned number)
+{
+    wchar_t name[64];
+    wsprintfW(name, L"Lumora Window Class_%05u", number);
+    return name;
+}
+
+bool IsClass(HMODULE library, const std::wstring& name)
+{
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof(description);
+    return GetClassInfoExW(library, name.c_str(), &description) != 0;
+}
+
 } // namespace
 
 // Windows counts for us; Wine answers 0 there.
@@ -157,13 +171,19 @@ std::vector<HWND> SettingsDialogs()
 
 unsigned OverlayClasses(HMODULE library)
 {
-    for (unsigned number = 0;; ++number) {
-        wchar_t name[64];
-        wsprintfW(name, L"Lumora Window Class_%05d", number);
-        WNDCLASSEXW description{};
-        description.cbSize = sizeof(description);
-        if (GetClassInfoExW(library, name, &description) == 0) {
-            return number;
+    unsigned number = 0;
+    while (IsClass(library, NameOfOverlayClass(number))) {
+        ++number;
+    }
+    return number;
+}
+
+void GiveBackOverlayClasses(HMODULE library)
+{
+    constexpr unsigned Numbers = 1 << 16;
+    for (unsigned number = 0; number < Numbers; ++number) {
+        if (const std::wstring name = NameOfOverlayClass(number); IsClass(library, name)) {
+            UnregisterClassW(name.c_str(), library);
         }
     }
 }

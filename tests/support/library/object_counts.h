@@ -21,6 +21,9 @@ std::vector<HWND> SettingsDialogs(); // the one that is open, and one that is cl
 // How many classes the library has registered for its overlay windows: they have numbers from 0 on.
 unsigned OverlayClasses(HMODULE library);
 
+// The system has room for some 16,000 of them. Those of living windows stay.
+void GiveBackOverlayClasses(HMODULE library);
+
 // Those that changes of the back-end have left.
 void DestroyLeftWindows(HWND living);
 

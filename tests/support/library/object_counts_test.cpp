@@ -26,3 +26,21 @@ TEST(KernelHandleCount, CountsEachOnceAlsoBehindThoseThatAreClosed)
     CloseHandle(events.back());
     EXPECT_EQ(KernelHandles(), before);
 }
+
+TEST(OverlayClassCount, CountsThoseOfOneModuleUntilTheyAreGivenBack)
+{
+    HMODULE module = GetModuleHandleW(nullptr);
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof(description);
+    description.lpfnWndProc = DefWindowProcW;
+    description.hInstance = module;
+    for (const wchar_t* name : {L"Lumora Window Class_00000", L"Lumora Window Class_00001"}) {
+        description.lpszClassName = name;
+        ASSERT_NE(RegisterClassExW(&description), 0);
+    }
+    EXPECT_EQ(OverlayClasses(module), 2U);
+    EXPECT_EQ(OverlayClasses(GetModuleHandleW(L"user32.dll")), 0U);
+
+    GiveBackOverlayClasses(module);
+    EXPECT_EQ(OverlayClasses(module), 0U);
+}
