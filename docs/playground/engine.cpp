@@ -78,7 +78,11 @@ FOR_PAGE(useRecord) void UseRecord() { Engine().SetParams(&g_record); }
 
 FOR_PAGE(addSample) void AddSample(int x, int y, int pressure)
 {
-    const PenData sample = {.time = 1, .x = x, .y = y, .pressure = pressure};
+    PenData sample{};
+    sample.time = 1;
+    sample.x = x;
+    sample.y = y;
+    sample.pressure = pressure;
     Engine().AddPenDataAry(&sample, 1);
 }
 

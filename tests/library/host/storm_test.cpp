@@ -126,9 +126,9 @@ void Storm::Write()
 void Storm::Use()
 {
     LM_Params record = OneIn(3) ? RandomBytes<LM_Params>() : Params();
-    record.inkDecayTime = Life();
-    record.minBrushSize = static_cast<int>(Width());
-    record.brushSize = static_cast<int>(Width());
+    record.inkDecayTime = static_cast<std::uint32_t>(Life());
+    record.minBrushSize = Width();
+    record.brushSize = Width();
     lumora::BrushDataMessage message = OneIn(2) ? lumora::MakeBrushParams(random(), Width(), Width())
                                                 : lumora::MakeInkDecayTime(std::uint32_t(Life()));
     constexpr std::uint32_t Levels[] = {0, 0, 0, 1, 2, 3, 4, 255, 256};

@@ -40,8 +40,7 @@ constexpr std::size_t MostImports = 1000;
 } // namespace
 
 EveryImport::EveryImport(HMODULE module)
-    : module(module),
-      code(static_cast<unsigned char*>(VirtualAlloc(nullptr, CommonSize + MostImports * SwitchSize,
+    : code(static_cast<unsigned char*>(VirtualAlloc(nullptr, CommonSize + MostImports * SwitchSize,
                                                     MEM_COMMIT | MEM_RESERVE, PAGE_EXECUTE_READWRITE)))
 {
     WriteCommonPart_();

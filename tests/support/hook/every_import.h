@@ -57,7 +57,6 @@ private:
     void WriteSwitch_(unsigned char* code, Import& import) const;
     void WriteCommonPart_() const;
 
-    HMODULE module;
     unsigned char* code;
     std::deque<Import> imports;
 

@@ -16,7 +16,10 @@ using testing::Not;
 
 HMODULE ThisProgram() { return GetModuleHandleW(nullptr); }
 
-int ScreenWidth() { return GetSystemMetrics(SM_CXSCREEN); }
+int AskForTheScreensWidth() { return GetSystemMetrics(SM_CXSCREEN); }
+
+// A function of its own for each call: within one, clang reads the import once.
+int (*const volatile ScreenWidth)() = AskForTheScreensWidth;
 
 TEST(EveryImport, PassesCallsOnAndKnowsThem)
 {
