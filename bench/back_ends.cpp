@@ -72,6 +72,7 @@ public:
         params.inkDecayTime = 3'600'000;
         library.setParams(&params);
         std::vector<LM_PenData> samples;
+        samples.reserve(ink.points.size());
         for (const POINT& point : ink.points) {
             samples.push_back(lumora::Overlay::SampleAt(point, 20'000, {0, 0})); // as wide as the bare ink
         }

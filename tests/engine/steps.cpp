@@ -66,7 +66,7 @@ template <class Sequence> Sequence Without(Sequence sequence, std::size_t first,
 }
 
 // Long runs first, single ones last.
-template <class Sequence, class Fails> Sequence Least(Sequence sequence, Fails fails)
+template <class Sequence, class Fails> Sequence Least(Sequence sequence, const Fails& fails)
 {
     for (std::size_t count = sequence.size(); count > 0; count /= 2) {
         for (std::size_t first = 0; first < sequence.size();) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 namespace lumora_pen {
@@ -92,9 +93,9 @@ public:
             return;
         }
         previous = SelectObject(dc, bitmap);
-        image = std::make_unique<Gdiplus::Bitmap>(area.Width(), area.Height(), area.Width() * 4,
-                                                  PixelFormat32bppPARGB, static_cast<BYTE*>(bits));
-        graphics = std::make_unique<Gdiplus::Graphics>(image.get());
+        image.emplace(area.Width(), area.Height(), area.Width() * 4, PixelFormat32bppPARGB,
+                      static_cast<BYTE*>(bits));
+        graphics.emplace(&*image);
         graphics->SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
         std::fill_n(pixels, Count_(), Ground);
     }
@@ -125,7 +126,7 @@ public:
     const PixelRectangle area;
     const HDC dc;
     std::uint32_t* pixels = nullptr;
-    std::unique_ptr<Gdiplus::Graphics> graphics;
+    std::optional<Gdiplus::Graphics> graphics;
 
 private:
     std::size_t Count_() const
@@ -135,7 +136,7 @@ private:
 
     HBITMAP bitmap = nullptr;
     HGDIOBJ previous = nullptr;
-    std::unique_ptr<Gdiplus::Bitmap> image;
+    std::optional<Gdiplus::Bitmap> image;
 };
 
 DryCanvas::DryCanvas() = default;

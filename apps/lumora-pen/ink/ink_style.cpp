@@ -36,7 +36,7 @@ int LifeOf(Mode mode, const Settings& settings)
 // True when the number differs from what the program had set and from what the dialog makes of it by itself.
 bool IsChosen(int now, int set, int mostOfDialog)
 {
-    return now != set && !(set > mostOfDialog && now == mostOfDialog);
+    return now != set && (set <= mostOfDialog || now != mostOfDialog);
 }
 
 } // namespace

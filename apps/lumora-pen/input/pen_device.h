@@ -26,7 +26,7 @@ public:
 
     Source Number() const { return number; }
     const std::wstring& Name() const { return name; } // for people
-    bool IsReadable() const { return pen.IsReadable() && !(hasFailed && !hasWorked); }
+    bool IsReadable() const { return pen.IsReadable() && (hasWorked || !hasFailed); }
     bool IsMapped() const { return mapping.isMapped; }
     bool IsInRange() const { return strokes.IsInRange(); }
 

@@ -43,6 +43,7 @@ std::vector<HANDLE> RawDevices()
         const UINT got = GetRawInputDeviceList(list.data(), &count, sizeof(RAWINPUTDEVICELIST));
         if (got != RawInputFailed && got <= list.size()) {
             std::vector<HANDLE> devices;
+            devices.reserve(got);
             for (UINT i = 0; i < got; ++i) {
                 devices.push_back(list[i].hDevice);
             }

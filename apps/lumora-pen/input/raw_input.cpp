@@ -90,6 +90,7 @@ void RawInput::OnDisplayChange()
     AskForPlaces_();
     // A stroke would go on elsewhere. What takes the batch may change the list.
     std::vector<std::shared_ptr<PenDevice>> all;
+    all.reserve(pens.size());
     for (const Known& known : pens) {
         all.push_back(known.pen);
     }

@@ -54,6 +54,7 @@ std::vector<MenuItem> Numbers(MenuCommand command, const std::array<int, Count>&
                               Text text)
 {
     std::vector<MenuItem> items;
+    items.reserve(Count);
     for (std::size_t i = 0; i < Count; ++i) {
         items.push_back({text(numbers[i]), IdOf(command, i), numbers[i] == current, {}});
     }
@@ -63,6 +64,7 @@ std::vector<MenuItem> Numbers(MenuCommand command, const std::array<int, Count>&
 std::vector<MenuItem> BackEnds(const MenuState& state)
 {
     std::vector<MenuItem> items;
+    items.reserve(BackEndItems.size());
     for (std::size_t i = 0; i < BackEndItems.size(); ++i) {
         items.push_back({std::string(BackEndItems[i]),
                          IdOf(MenuCommand::BackEnd, i),

@@ -62,6 +62,7 @@ protected:
         while (nth <= most && !HasFatalFailure() && Live(GetParam(), {{name, nth, times}})) {
             ++nth;
         }
+        EXPECT_LE(nth, Plenty) << name << " is called without end";
         return nth - 1;
     }
 };

@@ -133,9 +133,10 @@ bool IsAt(HWND window, const RECT& place)
     return EqualRect(&actual, &place) != FALSE;
 }
 
-Backdrop::Backdrop(const RECT& place, COLORREF colour)
-    : window(CreateWindowExW(WS_EX_TOOLWINDOW, MAKEINTATOM(BackdropClass()), L"Backdrop", WS_POPUP,
-                             place.left, place.top, Width(place), Height(place), nullptr, nullptr,
+Backdrop::Backdrop(const RECT& place, COLORREF colour, HWND parent)
+    : window(CreateWindowExW(WS_EX_TOOLWINDOW, MAKEINTATOM(BackdropClass()), L"Backdrop",
+                             (parent == nullptr ? WS_POPUP : WS_CHILD) | WS_CLIPCHILDREN, place.left,
+                             place.top, Width(place), Height(place), parent, nullptr,
                              GetModuleHandleW(nullptr), nullptr))
 {
     auto* state = new BackdropState{CreateSolidBrush(colour)};

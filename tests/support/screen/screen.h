@@ -39,7 +39,8 @@ bool IsAt(HWND window, const RECT& place);
 // An opaque window of one colour, below the overlay. Counts the clicks that reach it.
 class Backdrop {
 public:
-    Backdrop(const RECT& place, COLORREF colour);
+    // With a parent the place is in its coordinates.
+    Backdrop(const RECT& place, COLORREF colour, HWND parent = nullptr);
     ~Backdrop();
     Backdrop(const Backdrop&) = delete;
     Backdrop& operator=(const Backdrop&) = delete;
