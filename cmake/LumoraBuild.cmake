@@ -71,6 +71,13 @@ function(lumora_own_code target)
   endif()
 endfunction()
 
+# The sources of a test or a program are compiled some at a time in one go: nearly all the time goes into headers that they
+# share. Without it each file shows that it includes what it uses. The library's own are compiled each by itself.
+option(LUMORA_JOIN_SOURCES "Compile several sources of tests and programs in one go" ON)
+function(lumora_join_sources target)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${LUMORA_JOIN_SOURCES} UNITY_BUILD_BATCH_SIZE 8)
+endfunction()
+
 # What goes to hosts keeps its debug symbols, in a file of its own beside it. -p keeps the linker's time stamp, which is none.
 function(lumora_shipped target)
   set_target_properties(${target} PROPERTIES LUMORA_SHIPPED ON)
