@@ -77,6 +77,9 @@ TEST_P(EachCallFails, AndTheHostNeverSuffers)
         failures += FailEachCall(name, NthCall::Always);
     }
     std::printf("%zu functions and methods, %u failures\n", called.size(), failures);
+    const KeptObjects kept = KeptByHealthyLife();
+    std::printf("a life leaves %zu windows, %zu dialogs, %zu devices\n", kept.windows, kept.dialogs,
+                kept.devices);
 }
 
 class PairsOfCallsFail : public EachCallFails {};

@@ -150,6 +150,7 @@ std::vector<std::string> FaultTest::LearnHealthy(const FaultScenario& scenario)
     for (int i = 0; i < Lives; ++i) {
         LiveHealthy_(scenario);
         healthy = Count_();
+        keptByHealthy = kept;
     }
     return CallsOf_(scenario);
 }
@@ -200,6 +201,7 @@ bool FaultTest::LiveOnce_(const FaultScenario& scenario, const std::vector<Fault
     ExpectUsable_();
     ExpectNoSheet_(scenario);
     BeHealthyAgain_();
+    ExpectNoMoreKept_();
     return hasFailed;
 }
 
@@ -264,6 +266,7 @@ void FaultTest::BeHealthyAgain_()
     library.SetDebugLevel(0);
     shell.Move(Desktop);
     DestroyAndForget();
+    CountKept_();
     DestroyLeftWindows(nullptr);
     if (graphics) {
         ExpectGraphicsBalanced_();
@@ -291,6 +294,21 @@ LeftObjects FaultTest::Count_()
         graphics->Take();
     }
     return {GdiObjects(), KernelHandles(), OverlayWindows().size(), memory ? memory->HeldBlocks() : 0};
+}
+
+void FaultTest::CountKept_()
+{
+    const std::size_t devices = graphics ? graphics->Held().size() : 0;
+    kept = {OverlayWindows().size(), SettingsDialogs().size(), devices - devicesBefore};
+    devicesBefore = devices;
+}
+
+// Where a call fails, less may come to be than in a healthy life, but nothing more stays.
+void FaultTest::ExpectNoMoreKept_() const
+{
+    EXPECT_LE(kept.windows, keptByHealthy.windows);
+    EXPECT_LE(kept.dialogs, keptByHealthy.dialogs);
+    EXPECT_LE(kept.devices, keptByHealthy.devices);
 }
 
 std::ostream& operator<<(std::ostream& out, const LeftObjects& left)

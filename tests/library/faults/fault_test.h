@@ -31,6 +31,13 @@ struct LeftObjects {
 };
 std::ostream& operator<<(std::ostream& out, const LeftObjects& left);
 
+// What a life leaves on purpose, until the host or the test gives it back.
+struct KeptObjects {
+    std::size_t windows;
+    std::size_t dialogs;
+    std::size_t devices;
+};
+
 class FaultTest : public FaultHost {
 protected:
     FaultTest();
@@ -42,6 +49,8 @@ protected:
 
     // What the scenario calls when nothing fails, and what stays behind then.
     std::vector<std::string> LearnHealthy(const FaultScenario& scenario);
+
+    KeptObjects KeptByHealthyLife() const { return keptByHealthy; }
 
 private:
     bool HasFailed() const override;
@@ -59,11 +68,16 @@ private:
     void RaiseTheFirstExceptions_();
     void WithoutDevices_(const std::function<void()>& work);
     LeftObjects Count_();
+    void CountKept_();
+    void ExpectNoMoreKept_() const;
 
     std::optional<MemoryStandIn> memory;
     std::optional<CompositionStandIn> graphics;
     std::optional<EveryImport> imports;
     std::optional<LeftObjects> healthy;
+    KeptObjects kept{};
+    KeptObjects keptByHealthy{};
+    std::size_t devicesBefore = 0;
     std::set<std::string> healthyLines;
     unsigned lives = 0;
 };

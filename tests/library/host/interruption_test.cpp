@@ -6,6 +6,7 @@
 #include <commdlg.h>
 #include <shellapi.h>
 
+#include <cstdio>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -58,6 +59,12 @@ protected:
         calls.Answer<"SetForegroundWindow">(SetForegroundWindow, [](auto...) { return TRUE; });
         Select(ChooseGDI);
     }
+    ~Interruption() override
+    {
+        if (interruptions > 0) {
+            std::printf("%u interruptions\n", interruptions);
+        }
+    }
 
     // Lives, interrupted once at each call in turn, until there is none left to interrupt.
     void InterruptEachCall(Moment moment, const Action& action)
@@ -65,6 +72,8 @@ protected:
         InterruptEachCall(moment, action.name, [this, &action] { (this->*action.run)(); });
     }
     void InterruptEachCall(Moment moment, const std::string& name, const std::function<void()>& action);
+
+    unsigned interruptions = 0;
 };
 
 void Interruption::InterruptEachCall(Moment moment, const std::string& name,
@@ -84,6 +93,7 @@ void Interruption::InterruptEachCall(Moment moment, const std::string& name,
             EXPECT_GT(number, 1U) << "the call is never made";
             return;
         }
+        ++interruptions;
     }
 }
 
@@ -255,6 +265,7 @@ protected:
             g_action = [this, &action] { (this->*action.run)(); };
             leave();
             EXPECT_FALSE(g_action) << "nothing has taken the activation";
+            ++interruptions;
             ExpectIntact();
         }
     }
